@@ -1,0 +1,17 @@
+# korvel_room(NAME SOURCES... USES rooms and libraries...)
+#
+# A static library from the sources of this folder, with the folder on the include path of those
+# who use it. Warnings are errors.
+function(korvel_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ROOM_USES})
+  korvel_warnings(${name})
+endfunction()
+
+function(korvel_warnings name)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(${name} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror)
+  endif()
+endfunction()

@@ -1,0 +1,69 @@
+// The computer's turn: choose a cell, fire at it, enter the result.
+//
+// The choice sees a `KnownSea` only. The human's boats are read to give the result of a shot that
+// is already chosen.
+
+#include "KnownSea.h"
+#include "clsGrid.h"
+
+#include <utility>
+
+std::vector<Cell> clsGrid::ShotList() {
+  KnownSea sea{Size_, PFeld_.layer(2), {}, {}};
+  for (const tBoot &boot : PBoote_)
+    sea.sunk.push_back(boot.isSunk());
+  if (Treffer == 0)
+    return searchList(sea, draw_);
+
+  const tBoot &boot = PBoote(Treffer);
+  for (int j = 1; j <= boot.length(); ++j)
+    if (boot.Status(j) == tBoot::hit)
+      sea.hits.push_back(boot.cell(j));
+  return finishingList(sea);
+}
+
+ShotCode clsGrid::ComputerShoot() {
+  // 1. List, shuffle, choose.
+  std::vector<Cell> list = ShotList();
+  const int n = static_cast<int>(list.size());
+  const auto drawn = [&] { return static_cast<std::size_t>(draw_.draw(n) - 1); };
+  for (int i = 0; i < 2 * n; ++i) {
+    const auto a = drawn();
+    const auto b = drawn();
+    std::swap(list[a], list[b]);
+  }
+  const auto [X, Y] = list[drawn()];
+
+  // 2. A miss.
+  const int b = PFeld_(X, Y, 1);
+  if (b == 0) {
+    show(Picture::picDaneben, *PicComputer_, X, Y);
+    PFeld_(X, Y, 2) = Shot::miss;
+    verify();
+    return ShotCode::water;
+  }
+
+  // 3. A hit.
+  tBoot &boot = PBoote_[clsGrid::boat(b)];
+  for (int j = 1; j <= boot.length(); ++j)
+    if (boot.cell(j) == Cell{X, Y})
+      boot.setStatus(j, tBoot::hit);
+  PFeld_(X, Y, 2) = Shot::hit;
+  if (boot.isAfloat()) {
+    show(Picture::picTreffer, *PicComputer_, X, Y);
+    Treffer = static_cast<std::uint8_t>(b);
+    verify();
+    return ShotCode::hit;
+  }
+
+  // 4. A sinking. The water around comes first, as it is also written over the boat.
+  MarkAroundBoat(b);
+  for (int j = 1; j <= boot.length(); ++j) {
+    show(Picture::picVersenkt, *PicComputer_, boot.X(j), boot.Y(j));
+    boot.setStatus(j, tBoot::sunk);
+    PFeld_(boot.X(j), boot.Y(j), 2) = Shot::sunk;
+  }
+  Treffer = 0;
+  verify();
+  return ShotCode::sunk;
+}
