@@ -14,4 +14,7 @@ function(korvel_warnings name)
   if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(${name} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror)
   endif()
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(${name} PRIVATE -Wno-restrict) # false alarms on std::string in GCC 12
+  endif()
 endfunction()

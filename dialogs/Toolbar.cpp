@@ -1,0 +1,62 @@
+#include "Toolbar.h"
+
+#include "controls.h"
+#include "pictures.h"
+
+#include <QAbstractButton>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+namespace {
+
+constexpr QSize kPicture(49, 40);
+
+class ToolbarButton : public QAbstractButton {
+public:
+  ToolbarButton(QWidget *parent, const QString &caption, const QString &picture)
+      : QAbstractButton(parent) {
+    setText(caption);
+    setIcon(loadPicture(picture));
+    setFont(sansFont(9.75));
+    setAttribute(Qt::WA_Hover);
+  }
+
+protected:
+  void paintEvent(QPaintEvent *) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF plate = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    if (isDown() || (isEnabled() && underMouse())) {
+      painter.setPen(QColor(40, 70, 110, 150));
+      painter.setBrush(isDown() ? QColor(40, 80, 130, 70) : QColor(255, 255, 255, 120));
+      painter.drawRoundedRect(plate, 5, 5);
+    }
+    const int sunk = isDown() ? 1 : 0;
+    const QPoint corner((width() - kPicture.width()) / 2 + sunk, 4 + sunk);
+    icon().paint(&painter, QRect(corner, kPicture), Qt::AlignCenter,
+                 isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    painter.setPen(isEnabled() ? QColor(10, 25, 60) : QColor(10, 25, 60, 110));
+    painter.drawText(rect().adjusted(sunk, 44 + sunk, sunk, -2 + sunk),
+                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
+    if (hasFocus()) {
+      QStyleOptionFocusRect focus;
+      focus.initFrom(this);
+      focus.rect = rect().adjusted(3, 3, -3, -3);
+      style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+  }
+};
+
+} // namespace
+
+Toolbar::Toolbar(QWidget *parent) : QWidget(parent) {}
+
+void Toolbar::addButton(const QString &key, const QString &caption, const QString &picture,
+                        const QString &toolTip, bool enabled) {
+  auto *button = new ToolbarButton(this, caption, picture);
+  button->setObjectName(key);
+  button->setToolTip(toolTip);
+  button->setEnabled(enabled);
+  button->setGeometry(kButtonWidth * buttons_++, 1, kButtonWidth, kButtonHeight);
+  connect(button, &QAbstractButton::clicked, this, [this, key] { emit clicked(key); });
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+#include <QDialog>
+#include <QFont>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+/// What the windows of the game have in common. Positions are pixels in the parent.
+
+inline constexpr QColor kLightBlue(192, 192, 255); ///< buttons, counters, names
+inline constexpr QColor kDarkRed(128, 0, 0);
+inline constexpr QColor kLightCyan(192, 255, 255);
+
+/// Fonts by their size in points at 96 dpi, set in pixels so that a layout holds on every screen;
+/// each with metric-compatible fallbacks.
+QFont serifFont(double points, QFont::Weight weight = QFont::Bold);
+QFont sansFont(double points, QFont::Weight weight = QFont::Normal);
+
+/// A label of plain text, centred; `border` draws a single line around it.
+struct LabelLook {
+  QFont font;
+  QColor text;
+  QColor background = Qt::transparent;
+  bool border = false;
+  bool wrapped = false;
+};
+void dress(QLabel &label, const QRect &place, const LabelLook &look);
+
+/// A light blue push button. No key is bound to it but the access key of its caption.
+QPushButton *makeButton(QWidget *parent, const QRect &place, const QString &caption);
+
+/// A light blue option button that stays down, picture over caption.
+QToolButton *makeOption(QWidget *parent, const QRect &place, const QString &caption,
+                        const QString &picture, const QString &toolTip);
+
+/// A picture that takes clicks.
+class ImageButton : public QAbstractButton {
+  Q_OBJECT
+
+public:
+  explicit ImageButton(QWidget *parent);
+  void setPicture(const QPixmap &picture);
+  const QPixmap &picture() const { return picture_; }
+
+protected:
+  void paintEvent(QPaintEvent *event) override;
+
+private:
+  QPixmap picture_;
+};
+
+/// A modal window of the game: of fixed size, with a frame that closes it, centred over the main
+/// window when it is made. Enter and Escape press nothing by themselves.
+class Dialog : public QDialog {
+  Q_OBJECT
+
+public:
+  Dialog(QWidget *main, QSize inner, const QString &title);
+
+protected:
+  void keyPressEvent(QKeyEvent *event) override;
+};

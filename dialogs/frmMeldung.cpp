@@ -1,0 +1,43 @@
+#include "frmMeldung.h"
+
+#include "pictures.h"
+
+#include <QKeyEvent>
+
+frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, " ") {
+  auto *picHintergrund = new QLabel(this);
+  picHintergrund->setGeometry(2, 2, 349, 137);
+  picHintergrund->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  picHintergrund->setPixmap(loadPicture("meldung-hintergrund"));
+
+  lblMeldung_.setParent(picHintergrund);
+  lblMeldung_.setObjectName("lblMeldung");
+  dress(lblMeldung_, {16, 16, 313, 57},
+        {serifFont(11.25), palette().color(QPalette::WindowText), kLightBlue, true, true});
+
+  auto *cmdOK = makeButton(picHintergrund, {88, 96, 73, 25}, "&Ja");
+  auto *cmdAbbruch = makeButton(picHintergrund, {168, 96, 73, 25}, "&Nein");
+  cmdOK->setObjectName("cmdOK");
+  cmdAbbruch->setObjectName("cmdAbbruch");
+  connect(cmdOK, &QPushButton::clicked, this, [this] { setErgebnis(true); });
+  connect(cmdAbbruch, &QPushButton::clicked, this, [this] { setErgebnis(false); });
+}
+
+void frmMeldung::setErgebnis(bool answer) {
+  Ergebnis_ = answer;
+  close();
+}
+
+void frmMeldung::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Escape)
+    setErgebnis(false);
+  else
+    Dialog::keyPressEvent(event);
+}
+
+bool ask(QWidget *main, const QString &text) {
+  frmMeldung box(main);
+  box.setText(text);
+  box.exec();
+  return box.Ergebnis();
+}

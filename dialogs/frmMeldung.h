@@ -1,0 +1,30 @@
+#pragma once
+
+#include "controls.h"
+
+/// The game's own question box: a text, Ja and Nein.
+class frmMeldung : public Dialog {
+  Q_OBJECT
+
+public:
+  explicit frmMeldung(QWidget *main);
+
+  QString Text() const { return lblMeldung_.text(); }
+  void setText(const QString &text) { lblMeldung_.setText(text); }
+
+  /// The answer, readable after the box has closed. Closing it through its frame or with Escape
+  /// counts as Nein.
+  bool Ergebnis() const { return Ergebnis_; }
+  /// Stores the answer and closes the box.
+  void setErgebnis(bool answer);
+
+protected:
+  void keyPressEvent(QKeyEvent *event) override;
+
+private:
+  QLabel lblMeldung_;
+  bool Ergebnis_ = false;
+};
+
+/// Asks a question over the main window: true for Ja.
+bool ask(QWidget *main, const QString &text);

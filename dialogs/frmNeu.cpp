@@ -1,0 +1,110 @@
+#include "frmNeu.h"
+
+#include "EventPump.h"
+#include "pictures.h"
+
+#include <QCompleter>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+constexpr int kMostTyped = 14; // characters
+
+// Keys that type: what gives a character, Backspace, Enter and Escape included, but neither Delete
+// nor the keys that move.
+bool types(const QKeyEvent &key) {
+  return !key.text().isEmpty() && key.key() != Qt::Key_Delete && key.key() != Qt::Key_Tab &&
+         key.key() != Qt::Key_Backtab && !key.modifiers().testFlag(Qt::AltModifier);
+}
+
+} // namespace
+
+frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
+    : Dialog(main, {284, 203}, "Neues Spiel"), start_(std::move(start)) {
+  auto *background = new QLabel(this);
+  background->setGeometry(rect());
+  background->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  background->setPixmap(loadPicture("neu-hintergrund"));
+
+  auto *lblName = new QLabel("Name des Spielers:", this);
+  auto *lblSize = new QLabel("Spielfeld:", this);
+  dress(*lblName, {56, 16, 121, 17}, {sansFont(9.75), Qt::white});
+  dress(*lblSize, {56, 72, 121, 17}, {sansFont(9.75), Qt::white});
+  for (QLabel *label : {lblName, lblSize})
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+
+  cboName_.setParent(this);
+  cboName_.setObjectName("cboName");
+  cboName_.setAccessibleName("Name des Spielers");
+  cboName_.setGeometry(56, 32, 161, 24);
+  cboName_.setEditable(true);
+  cboName_.setInsertPolicy(QComboBox::NoInsert);
+  cboName_.setCompleter(nullptr);
+  cboName_.setFont(sansFont(9.75, QFont::Bold));
+  cboName_.setToolTip("Gib hier Deinen Namen ein.");
+  QPalette palette = cboName_.palette();
+  for (const auto role : {QPalette::Base, QPalette::Button})
+    palette.setColor(role, kLightBlue);
+  cboName_.setPalette(palette);
+  cboName_.installEventFilter(this);
+
+  const std::array toolTips{"Schnelles Spiel", "Normales Spiel", "Langes Spiel"};
+  for (int i = 0; i < 3; ++i) {
+    auto *&option = optSize_[static_cast<std::size_t>(i)];
+    const QString number = QString::number(i + 1);
+    option = makeOption(this, {56 + 56 * i, 88, 49, 49}, "Größe " + number, "groesse-" + number,
+                        toolTips[static_cast<std::size_t>(i)]);
+    option->setObjectName("optSize" + QString::number(i));
+    option->setChecked(i == Size - 1);
+  }
+
+  auto *cmdOK = makeButton(this, {80, 168, 57, 25}, "&OK!");
+  cmdOK->setObjectName("cmdOK");
+  cmdOK->setToolTip("Einstellungen übernehmen");
+  connect(cmdOK, &QPushButton::clicked, this, &frmNeu::accepted);
+  auto *cmdAbbruch = makeButton(this, {144, 168, 57, 25}, "&Abbruch");
+  cmdAbbruch->setObjectName("cmdAbbruch");
+  cmdAbbruch->setToolTip("Dialog abbrechen");
+  connect(cmdAbbruch, &QPushButton::clicked, this, &QWidget::close);
+
+  cboName_.setEditText(name);
+  cboName_.lineEdit()->selectAll();
+}
+
+int frmNeu::GetSize() const {
+  for (int i = 0; i < 3; ++i)
+    if (optSize_[static_cast<std::size_t>(i)]->isChecked())
+      return i + 1;
+  return 0;
+}
+
+void frmNeu::accepted() {
+  if (cboName_.currentText().isEmpty())
+    cboName_.setEditText("Unbekannt");
+  const QString name = cboName_.currentText();
+  hide();
+  letEventsRun();
+  start_(GetSize(), name);
+}
+
+// The focus goes to the name whenever the dialog comes up.
+bool frmNeu::event(QEvent *event) {
+  if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
+    cboName_.setFocus();
+  return Dialog::event(event);
+}
+
+// A name grows by typing to 14 characters. From there on every typing key is discarded, Backspace
+// too; Delete and the choice from the list go on working.
+bool frmNeu::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == &cboName_ && cboName_.currentText().size() >= kMostTyped) {
+    if (event->type() == QEvent::KeyPress && types(*static_cast<QKeyEvent *>(event)))
+      return true;
+    if (event->type() == QEvent::InputMethod &&
+        !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty())
+      return true;
+  }
+  return Dialog::eventFilter(watched, event);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "MessageBox.h"
+#include "PictureBox.h"
+#include "RandomDraw.h"
+#include "Settings.h"
+#include "SettingsStore.h"
+#include "SoundDevice.h"
+
+#include <QPixmap>
+#include <QString>
+
+#include <array>
+
+/// What the game needs of the outside world. All of it must outlive the main window.
+struct Services {
+  RandomDraw &draw;
+  SoundDevice &sound;
+  SettingsStore &settings;
+  MessageBox &messages;
+};
+
+/// The sounds, complete WAV files.
+struct Sounds {
+  Klang SndMuell, SndBoot, SndAlle, SndStart, SndWasser, SndDoppelt, SndTreffer, SndVersenkt,
+      SndSieg, SndVerloren;
+
+  /// The sounds that the program carries inside.
+  static Sounds load();
+};
+
+/// What the start-up fills and the windows share.
+struct Globals {
+  QString ScorePath; ///< `Score.hsc`, the top ten
+  QString ComboPath; ///< `Combo.txt`, the list of names
+  QString HelpPath;  ///< `Hilfe.chm`, the help file
+  Sounds sounds;
+  std::array<QPixmap, 2> MuellIcon; ///< the dustbin: 0 grey, 1 red
+  Sprites sprites;
+  Settings settings;
+};
+
+/// The path of a data file in the program's folder, which may end in a separator or not.
+QString dataPath(const QString &folder, const QString &file);

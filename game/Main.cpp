@@ -1,0 +1,37 @@
+#include "Main.h"
+
+#include "pictures.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QStyleFactory>
+
+void dressApplication() {
+  // One look everywhere, in light colours: the design sets dark texts on light blue, which a dark
+  // desktop's palette would make unreadable.
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QPalette palette(QColor(236, 238, 244));
+  palette.setColor(QPalette::Highlight, QColor(20, 70, 140));
+  QApplication::setPalette(palette);
+  QApplication::setApplicationName("Korvel");
+  QGuiApplication::setDesktopFileName("korvel");
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    icon.addFile(QString(":/pictures/korvel-%1.png").arg(size));
+  QApplication::setWindowIcon(icon);
+}
+
+std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const QString &folder) {
+  globals.ScorePath = dataPath(folder, "Score.hsc");
+  globals.ComboPath = dataPath(folder, "Combo.txt");
+  globals.HelpPath = dataPath(folder, "Hilfe.chm");
+  globals.sounds = Sounds::load();
+  globals.MuellIcon = {loadPicture("muell-grau"), loadPicture("muell-rot")};
+  globals.sprites = Sprites::load();
+  globals.settings = Settings::read(services.settings);
+
+  auto window = std::make_unique<frmHaupt>(globals, services);
+  window->setModus(0);
+  window->show();
+  return window;
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "BoatInWork.h"
+#include "Globals.h"
+#include "Label.h"
+#include "PictureBox.h"
+#include "SoundPlayer.h"
+#include "Toolbar.h"
+#include "clsGrid.h"
+#include "controls.h"
+
+#include <QLabel>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+/// A label of the window that the board may write.
+class NameLabel : public QLabel, public Label {
+public:
+  using QLabel::QLabel;
+  void setCaption(const std::string &text) override { setText(QString::fromStdString(text)); }
+};
+
+/// The main window, and the owner of the running game.
+///
+/// The whole game advances on one event, the press on the left field; the computer's reply runs
+/// inside its handler. Wherever a handler lets events run or shows a dialog, the window may be
+/// closed; closing releases `Grid`, so each handler looks whether it is gone and ends without
+/// touching what is. The window object itself outlives them all.
+class frmHaupt : public QWidget {
+  Q_OBJECT
+
+public:
+  enum Mode : std::uint8_t { Idle = 0, Setup = 1, Battle = 2, Over = 3 };
+
+  frmHaupt(Globals &globals, const Services &services);
+
+  /// The board; null once the window is closed.
+  const clsGrid *grid() const { return Grid.get(); }
+  std::uint8_t Modus() const { return Modus_; }
+  /// Stores the mode, then does what belongs to entering it.
+  void setModus(std::uint8_t mode);
+  /// Bombs dropped in this game, by the human (0) and the computer (1).
+  int BombenZahl(int side) const { return BombenZahl_[static_cast<std::size_t>(side)]; }
+
+protected:
+  void closeEvent(QCloseEvent *event) override;
+
+private:
+  // frmHaupt.cpp: the window
+  void buildToolbar();
+  void buildFields();
+  void buildCounters();
+  void runCommand(const QString &key);
+  void Form_Unload();
+  void Grid_ChangePicSize();
+  void DoEnde();
+  bool closed() const { return !Grid; }
+
+  // modes.cpp: modes, new game, press
+  void enterSetup();
+  void enableFields(bool enabled);
+  int UpdateBoote();
+  void DoNew();
+  void startGame(int size, const QString &name);
+  void picpFeld_MouseDown(Qt::MouseButton button, double X, double Y);
+
+  // setup.cpp: the human's fleet
+  void setPoint(const Cell &cell);
+  void fleetComplete();
+  void imgMuell_Click();
+  void showBin(bool inWork);
+
+  // turn.cpp: a turn of the battle
+  void takeTurn(const Cell &cell);
+  void computerReplies();
+
+  // end.cpp: the end of a game
+  void humanWins();
+  void computerWins();
+
+  Globals &globals_;
+  const Services services_;
+  SoundPlayer player_;
+
+  Toolbar tbToolbar{this};
+  QLabel picHinten{this};
+  PictureBox picpFeld;
+  PictureBox piccFeld;
+  std::array<NameLabel, 2> lblName;
+  ImageButton imgMüll{&picHinten};
+  std::array<QLabel, 6> lblpBoote;
+  std::array<QLabel, 6> lblcBoote;
+
+  std::unique_ptr<clsGrid> Grid;
+  std::uint8_t Modus_ = Idle;
+  std::array<int, 2> BombenZahl_{};
+  BoatInWork boat_; ///< `BootID` and `TeilNr`
+};

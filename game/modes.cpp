@@ -1,0 +1,86 @@
+// The modes of a game, the start of a new one, and the way of a press to the mode's action.
+
+#include "EventPump.h"
+#include "frmHaupt.h"
+#include "frmNeu.h"
+#include "press.h"
+
+void frmHaupt::setModus(std::uint8_t mode) {
+  Modus_ = mode;
+  switch (mode) {
+  case Idle:
+    enableFields(false);
+    imgMüll.hide();
+    UpdateBoote();
+    Grid->Treffer = 0;
+    break;
+  case Setup:
+    enterSetup();
+    break;
+  case Battle:
+    UpdateBoote();
+    BombenZahl_ = {};
+    break;
+  case Over:
+    enableFields(false);
+    Grid->Treffer = 0;
+    break;
+  default:
+    break;
+  }
+}
+
+void frmHaupt::enterSetup() {
+  if (!Grid->CreateComputerField()) {
+    services_.messages.critical("Fehler!",
+                                "Systemfehler\r\n\r\nComputer kann Spielfeld nicht erstellen!");
+    close();
+    return;
+  }
+  boat_ = {};
+  enableFields(true);
+  showBin(false);
+  imgMüll.show();
+  UpdateBoote();
+}
+
+// Only the left field ever takes a press.
+void frmHaupt::enableFields(bool enabled) { picpFeld.setEnabled(enabled); }
+
+// Writes the counters. The result is the winner: 0 nobody, 1 the human, 2 the computer.
+int frmHaupt::UpdateBoote() {
+  const BoatTexts table = Grid->BoatTable(Modus_);
+  for (std::size_t i = 0; i < lblpBoote.size(); ++i) {
+    lblpBoote[i].setText(QString::fromStdString(table[0][i]));
+    lblcBoote[i].setText(QString::fromStdString(table[1][i]));
+  }
+  return Modus_ == Battle ? winnerOf(table) : 0;
+}
+
+void frmHaupt::DoNew() {
+  frmNeu dialog(this, Grid->Size(), lblName[0].text(),
+                [this](int size, const QString &name) { startGame(size, name); });
+  dialog.exec();
+  letEventsRun();
+}
+
+void frmHaupt::startGame(int size, const QString &name) {
+  if (closed())
+    return;
+  Grid->setSize(size);
+  Grid->setPlayerName(name.toStdString());
+  setModus(Setup);
+}
+
+void frmHaupt::picpFeld_MouseDown(Qt::MouseButton button, double X, double Y) {
+  if (closed() || Modus_ == Over || button != Qt::LeftButton)
+    return;
+  const auto cell =
+      cellAt(X, Y, picpFeld.innerWidth(), picpFeld.innerHeight(), Grid->CellSize());
+  if (!cell)
+    return;
+  if (Modus_ == Setup)
+    setPoint(*cell);
+  else if (Modus_ == Battle)
+    takeTurn(*cell);
+}

@@ -1,0 +1,61 @@
+// The human sets the fleet: press by press, boat by boat, the longest first.
+
+#include "EventPump.h"
+#include "frmHaupt.h"
+#include "frmMeldung.h"
+
+void frmHaupt::setPoint(const Cell &cell) {
+  if (!boat_.accepts(*Grid, cell.X, cell.Y))
+    return;
+  showBin(true);
+  if (boat_.add(*Grid, cell.X, cell.Y))
+    return;
+
+  Grid->DrawBoat(boat_.BootID);
+  player_.PlayWav(globals_.sounds.SndBoot, true);
+  UpdateBoote();
+  letEventsRun();
+  if (closed())
+    return;
+  showBin(false);
+  if (!boat_.next(*Grid))
+    fleetComplete();
+}
+
+void frmHaupt::fleetComplete() {
+  player_.PlayWav(globals_.sounds.SndBoot, false);
+  if (closed())
+    return;
+  player_.PlayWav(globals_.sounds.SndAlle, true);
+  letEventsRun();
+  if (closed())
+    return;
+  const bool accepted = ask(this, "Alle Boote wurden gesetzt.\r\n\r\n"
+                                  "Bist Du mit der Aufstellung zufrieden?");
+  if (closed())
+    return;
+  if (!accepted) {
+    Grid->setSize(Grid->Size());
+    setModus(Setup);
+    return;
+  }
+  imgMüll.setEnabled(false);
+  imgMüll.hide();
+  player_.PlayWav(globals_.sounds.SndStart, true);
+  Grid->MoveFleet();
+  setModus(Battle);
+}
+
+void frmHaupt::imgMuell_Click() {
+  if (closed())
+    return;
+  player_.PlayWav(globals_.sounds.SndMuell, true);
+  boat_.discard(*Grid);
+  showBin(false);
+}
+
+// The dustbin is red and takes clicks exactly while a boat is in work.
+void frmHaupt::showBin(bool inWork) {
+  imgMüll.setPicture(globals_.MuellIcon[inWork ? 1 : 0]);
+  imgMüll.setEnabled(inWork);
+}

@@ -1,0 +1,61 @@
+// A turn: the human's shot, its sound to the end, the computer's reply.
+//
+// A repeated cell costs nothing and gets no reply, nor does the shot that wins. A hit gives neither
+// side a further shot. The sound of the human's shot is the pause before the reply, whose own
+// sound plays while the human is already free to press.
+
+#include "EventPump.h"
+#include "frmHaupt.h"
+
+void frmHaupt::takeTurn(const Cell &cell) {
+  const ShotCode code = Grid->Shoot(cell.X, cell.Y);
+  letEventsRun();
+  if (closed())
+    return;
+
+  int winner = 0;
+  switch (code) {
+  case ShotCode::repeated:
+    player_.PlayWav(globals_.sounds.SndDoppelt, false);
+    return;
+  case ShotCode::water:
+    player_.PlayWav(globals_.sounds.SndWasser, false);
+    ++BombenZahl_[0];
+    break;
+  case ShotCode::hit:
+    player_.PlayWav(globals_.sounds.SndTreffer, false);
+    ++BombenZahl_[0];
+    break;
+  case ShotCode::sunk:
+    ++BombenZahl_[0];
+    winner = UpdateBoote();
+    letEventsRun();
+    if (closed())
+      return;
+    player_.PlayWav(globals_.sounds.SndVersenkt, false);
+    break;
+  }
+  if (closed())
+    return;
+  if (winner == 1)
+    humanWins();
+  else
+    computerReplies();
+}
+
+void frmHaupt::computerReplies() {
+  const ShotCode code = Grid->ComputerShoot();
+  ++BombenZahl_[1];
+  if (code != ShotCode::sunk) {
+    player_.PlayWav(
+        code == ShotCode::hit ? globals_.sounds.SndTreffer : globals_.sounds.SndWasser, true);
+    return;
+  }
+  const int winner = UpdateBoote();
+  letEventsRun();
+  if (closed())
+    return;
+  player_.PlayWav(globals_.sounds.SndVersenkt, true);
+  if (winner == 2)
+    computerWins();
+}

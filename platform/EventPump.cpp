@@ -1,0 +1,5 @@
+#include "EventPump.h"
+
+#include <QCoreApplication>
+
+void letEventsRun() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// The standard message box, for what ends the program.
+class MessageBox {
+public:
+  virtual ~MessageBox() = default;
+
+  /// Shows a stop icon, the text and one OK button, and returns when it is closed.
+  virtual void critical(const QString &title, const QString &text) = 0;
+};
+
+/// The message box of the desktop.
+class QtMessageBox : public MessageBox {
+public:
+  void critical(const QString &title, const QString &text) override;
+};

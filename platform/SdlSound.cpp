@@ -1,0 +1,110 @@
+#define SDL_MAIN_HANDLED
+#include "SdlSound.h"
+
+#include <SDL.h>
+
+#include <memory>
+#include <thread>
+
+namespace {
+
+constexpr int kRate = 44100; // frames per second
+constexpr int kChannels = 2;
+constexpr SDL_AudioFormat kFormat = AUDIO_S16SYS;
+constexpr int kBytesPerSecond = kRate * kChannels * 2;
+constexpr int kBufferFrames = 1024; // 23 ms, the longest that a cut sound goes on
+constexpr std::chrono::seconds kRetry{10};
+
+QByteArray decode(const Klang &klang) {
+  SDL_AudioSpec spec{};
+  Uint8 *data = nullptr;
+  Uint32 length = 0;
+  SDL_RWops *file = SDL_RWFromConstMem(klang.constData(), static_cast<int>(klang.size()));
+  if (!SDL_LoadWAV_RW(file, 1, &spec, &data, &length))
+    return {};
+  const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> wav(data, &SDL_FreeWAV);
+
+  SDL_AudioCVT conversion;
+  if (SDL_BuildAudioCVT(&conversion, spec.format, spec.channels, spec.freq, kFormat, kChannels,
+                        kRate) < 0)
+    return {};
+  QByteArray pcm(static_cast<qsizetype>(length) * conversion.len_mult, Qt::Uninitialized);
+  std::copy_n(data, length, pcm.data());
+  conversion.buf = reinterpret_cast<Uint8 *>(pcm.data());
+  conversion.len = static_cast<int>(length);
+  conversion.len_cvt = conversion.len;
+  if (conversion.needed && SDL_ConvertAudio(&conversion) != 0)
+    return {};
+  pcm.resize(conversion.len_cvt);
+  pcm.squeeze();
+  return pcm;
+}
+
+} // namespace
+
+SdlSound::~SdlSound() {
+  if (device_ != 0)
+    SDL_CloseAudioDevice(device_);
+  if (SDL_WasInit(SDL_INIT_AUDIO) != 0)
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+bool SdlSound::open() {
+  if (device_ != 0 && SDL_GetAudioDeviceStatus(device_) != SDL_AUDIO_STOPPED)
+    return true;
+  const auto now = std::chrono::steady_clock::now();
+  if (failedAt_ && now - *failedAt_ < kRetry)
+    return false;
+  if (device_ != 0)
+    SDL_CloseAudioDevice(device_); // the card has gone
+
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  SDL_AudioSpec spec{};
+  spec.freq = kRate;
+  spec.format = kFormat;
+  spec.channels = kChannels;
+  spec.samples = kBufferFrames;
+  device_ = 0;
+  if (SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0)
+    device_ = SDL_OpenAudioDevice(nullptr, 0, &spec, nullptr, 0);
+  if (device_ == 0) {
+    failedAt_ = now;
+    return false;
+  }
+  failedAt_.reset();
+  SDL_PauseAudioDevice(device_, 0);
+  return true;
+}
+
+bool SdlSound::playToEnd(const Klang &klang) {
+  const auto length = play(klang);
+  if (!length)
+    return false;
+  std::this_thread::sleep_for(*length);
+  return true;
+}
+
+void SdlSound::sleep(int ms) { std::this_thread::sleep_for(std::chrono::milliseconds(ms)); }
+
+std::optional<std::chrono::microseconds> SdlSound::play(const Klang &klang) {
+  if (klang.isEmpty()) {
+    if (device_ != 0)
+      SDL_ClearQueuedAudio(device_);
+    return std::chrono::microseconds(0);
+  }
+  if (!open())
+    return std::nullopt;
+  SDL_ClearQueuedAudio(device_);
+  const QByteArray &pcm = decoded(klang);
+  if (pcm.isEmpty() ||
+      SDL_QueueAudio(device_, pcm.constData(), static_cast<Uint32>(pcm.size())) != 0)
+    return std::nullopt;
+  return std::chrono::microseconds(pcm.size() * 1'000'000 / kBytesPerSecond);
+}
+
+const QByteArray &SdlSound::decoded(const Klang &klang) {
+  auto found = decoded_.find(klang);
+  if (found == decoded_.end())
+    found = decoded_.insert(klang, decode(klang));
+  return *found;
+}

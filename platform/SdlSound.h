@@ -1,0 +1,37 @@
+#pragma once
+
+#include "SoundDevice.h"
+
+#include <QHash>
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+
+/// Sound through SDL, audio only. The device is opened once, by `open` or the first sound, and
+/// stays open.
+class SdlSound : public SoundDevice {
+public:
+  SdlSound() = default;
+  SdlSound(const SdlSound &) = delete;
+  SdlSound &operator=(const SdlSound &) = delete;
+  ~SdlSound() override;
+
+  /// Opens the device if it is not open. Costs tens of milliseconds, so it is best called when
+  /// nobody waits. After a failure the next attempt is made ten seconds later at the earliest.
+  bool open();
+
+  void start(const Klang &klang) override { play(klang); }
+  bool playToEnd(const Klang &klang) override;
+  void sleep(int ms) override;
+
+private:
+  /// Starts a sound and gives its length; nothing if it can't be heard.
+  std::optional<std::chrono::microseconds> play(const Klang &klang);
+  /// The sound in the format of the device; empty if it is no WAV file that SDL knows.
+  const QByteArray &decoded(const Klang &klang);
+
+  std::uint32_t device_ = 0; ///< SDL's number of the open device, 0 for none
+  std::optional<std::chrono::steady_clock::time_point> failedAt_;
+  QHash<Klang, QByteArray> decoded_;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QByteArray>
+
+/// A complete WAV file in memory; empty for silence.
+using Klang = QByteArray;
+
+/// What can be heard, and the waiting that goes with it. One sound plays at a time.
+class SoundDevice {
+public:
+  virtual ~SoundDevice() = default;
+
+  /// Cuts the sound that is playing and starts this one; an empty buffer only stops. Returns at
+  /// once. What can't be decoded or heard is passed over in silence.
+  virtual void start(const Klang &klang) = 0;
+
+  /// Like `start`, but blocks the thread until the sound has ended. False, at once, if it can't be
+  /// heard.
+  virtual bool playToEnd(const Klang &klang) = 0;
+
+  /// Blocks the thread for `ms` milliseconds.
+  virtual void sleep(int ms) = 0;
+};
