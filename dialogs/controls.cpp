@@ -14,13 +14,6 @@ QFont font(const QStringList &families, double points, QFont::Weight weight) {
   return result;
 }
 
-QPalette lightBlue(const QPalette &base) {
-  QPalette palette = base;
-  palette.setColor(QPalette::Button, kLightBlue);
-  palette.setColor(QPalette::ButtonText, Qt::black);
-  return palette;
-}
-
 } // namespace
 
 QFont serifFont(double points, QFont::Weight weight) {
@@ -43,32 +36,61 @@ void dress(QLabel &label, const QRect &place, const LabelLook &look) {
   label.setPalette(palette);
   label.setAutoFillBackground(look.background.alpha() != 0);
   if (look.border)
-    label.setFrameStyle(QFrame::Box | QFrame::Plain);
+    label.setFrameStyle(QFrame::Box | QFrame::Plain); // in the colour of the text
 }
 
-QPushButton *makeButton(QWidget *parent, const QRect &place, const QString &caption) {
-  auto *button = new QPushButton(caption, parent);
-  button->setGeometry(place);
-  button->setFont(sansFont(9.75));
-  button->setPalette(lightBlue(button->palette()));
-  button->setAutoDefault(false);
-  return button;
+BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
+                       const QString &caption, const QString &toolTip)
+    : QPushButton(caption, parent) {
+  setObjectName(name);
+  setGeometry(place);
+  setFont(sansFont(9.75));
+  setToolTip(toolTip);
+  setAutoDefault(false);
+  setAttribute(Qt::WA_Hover);
 }
 
-QToolButton *makeOption(QWidget *parent, const QRect &place, const QString &caption,
-                        const QString &picture, const QString &toolTip) {
-  auto *button = new QToolButton(parent);
-  button->setGeometry(place);
+void BlueButton::paintEvent(QPaintEvent *) {
+  const bool sunken = isDown() || isChecked();
+  QPainter painter(this);
+
+  // 1. The plate: an edge of light from the upper left, the other way round when it is down.
+  const QRect plate = rect().adjusted(0, 0, -1, -1);
+  const QColor face = isChecked() ? kLightBlue.darker(118) : kLightBlue;
+  painter.fillRect(rect(), underMouse() && !sunken ? kLightBlue.lighter(108) : face);
+  painter.setPen(sunken ? kLightBlue.darker(170) : QColor(Qt::white));
+  painter.drawPolyline(QPolygon({plate.bottomLeft() + QPoint(1, -1), plate.topLeft() + QPoint(1, 1),
+                                 plate.topRight() + QPoint(-1, 1)}));
+  painter.setPen(sunken ? QColor(Qt::white) : kLightBlue.darker(150));
+  painter.drawPolyline(QPolygon({plate.bottomLeft() + QPoint(1, -1),
+                                 plate.bottomRight() + QPoint(-1, -1),
+                                 plate.topRight() + QPoint(-1, 1)}));
+  painter.setPen(kLightBlue.darker(300));
+  painter.drawRect(plate);
+
+  // 2. What stands on it.
+  const QRect inside = rect().translated(isDown() ? 1 : 0, isDown() ? 1 : 0);
+  const bool pictured = !icon().isNull();
+  if (pictured)
+    icon().paint(&painter, QRect({inside.x() + (width() - iconSize().width()) / 2, inside.y() + 2},
+                                 iconSize()));
+  painter.setPen(Qt::black);
+  painter.drawText(pictured ? inside.adjusted(0, iconSize().height(), 0, 0) : inside,
+                   Qt::AlignCenter | Qt::TextShowMnemonic, text());
+  if (hasFocus()) {
+    painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+    painter.drawRect(plate.adjusted(3, 3, -3, -3));
+  }
+}
+
+BlueButton *makeOption(QWidget *parent, const QString &name, const QRect &place,
+                       const QString &caption, const QString &picture, const QString &toolTip) {
+  auto *button = new BlueButton(parent, name, place, caption, toolTip);
   button->setFont(sansFont(8.25));
-  button->setPalette(lightBlue(button->palette()));
-  button->setText(caption);
   button->setIcon(loadPicture(picture));
   button->setIconSize({32, 32});
-  button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  button->setToolTip(toolTip);
   button->setCheckable(true);
   button->setAutoExclusive(true);
-  button->setFocusPolicy(Qt::StrongFocus);
   return button;
 }
 

@@ -6,7 +6,6 @@
 #include <QFont>
 #include <QLabel>
 #include <QPushButton>
-#include <QToolButton>
 
 /// What the windows of the game have in common. Positions are pixels in the parent.
 
@@ -29,12 +28,22 @@ struct LabelLook {
 };
 void dress(QLabel &label, const QRect &place, const LabelLook &look);
 
-/// A light blue push button. No key is bound to it but the access key of its caption.
-QPushButton *makeButton(QWidget *parent, const QRect &place, const QString &caption);
+/// A light blue button, caption or picture over caption. No key is bound to it but the access key
+/// of its caption and, with the focus, Space.
+class BlueButton : public QPushButton {
+  Q_OBJECT
 
-/// A light blue option button that stays down, picture over caption.
-QToolButton *makeOption(QWidget *parent, const QRect &place, const QString &caption,
-                        const QString &picture, const QString &toolTip);
+public:
+  BlueButton(QWidget *parent, const QString &name, const QRect &place, const QString &caption,
+             const QString &toolTip = {});
+
+protected:
+  void paintEvent(QPaintEvent *event) override;
+};
+
+/// An option button: one of its group stays down. `picture` is 32 by 32.
+BlueButton *makeOption(QWidget *parent, const QString &name, const QRect &place,
+                       const QString &caption, const QString &picture, const QString &toolTip);
 
 /// A picture that takes clicks.
 class ImageButton : public QAbstractButton {

@@ -15,10 +15,8 @@ frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, " ") {
   dress(lblMeldung_, {16, 16, 313, 57},
         {serifFont(11.25), palette().color(QPalette::WindowText), kLightBlue, true, true});
 
-  auto *cmdOK = makeButton(picHintergrund, {88, 96, 73, 25}, "&Ja");
-  auto *cmdAbbruch = makeButton(picHintergrund, {168, 96, 73, 25}, "&Nein");
-  cmdOK->setObjectName("cmdOK");
-  cmdAbbruch->setObjectName("cmdAbbruch");
+  auto *cmdOK = new BlueButton(picHintergrund, "cmdOK", {88, 96, 73, 25}, "&Ja");
+  auto *cmdAbbruch = new BlueButton(picHintergrund, "cmdAbbruch", {168, 96, 73, 25}, "&Nein");
   connect(cmdOK, &QPushButton::clicked, this, [this] { setErgebnis(true); });
   connect(cmdAbbruch, &QPushButton::clicked, this, [this] { setErgebnis(false); });
 }

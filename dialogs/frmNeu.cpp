@@ -52,21 +52,19 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
 
   const std::array toolTips{"Schnelles Spiel", "Normales Spiel", "Langes Spiel"};
   for (int i = 0; i < 3; ++i) {
-    auto *&option = optSize_[static_cast<std::size_t>(i)];
     const QString number = QString::number(i + 1);
-    option = makeOption(this, {56 + 56 * i, 88, 49, 49}, "Größe " + number, "groesse-" + number,
-                        toolTips[static_cast<std::size_t>(i)]);
-    option->setObjectName("optSize" + QString::number(i));
+    auto *option = makeOption(this, QString("optSize%1").arg(i), {56 + 56 * i, 88, 49, 49},
+                              "Größe " + number, "groesse-" + number,
+                              toolTips[static_cast<std::size_t>(i)]);
     option->setChecked(i == Size - 1);
+    optSize_[static_cast<std::size_t>(i)] = option;
   }
 
-  auto *cmdOK = makeButton(this, {80, 168, 57, 25}, "&OK!");
-  cmdOK->setObjectName("cmdOK");
-  cmdOK->setToolTip("Einstellungen übernehmen");
+  auto *cmdOK =
+      new BlueButton(this, "cmdOK", {80, 168, 57, 25}, "&OK!", "Einstellungen übernehmen");
+  auto *cmdAbbruch =
+      new BlueButton(this, "cmdAbbruch", {144, 168, 57, 25}, "&Abbruch", "Dialog abbrechen");
   connect(cmdOK, &QPushButton::clicked, this, &frmNeu::accepted);
-  auto *cmdAbbruch = makeButton(this, {144, 168, 57, 25}, "&Abbruch");
-  cmdAbbruch->setObjectName("cmdAbbruch");
-  cmdAbbruch->setToolTip("Dialog abbrechen");
   connect(cmdAbbruch, &QPushButton::clicked, this, &QWidget::close);
 
   cboName_.setEditText(name);

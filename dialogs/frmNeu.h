@@ -30,5 +30,5 @@ private:
 
   Start start_;
   QComboBox cboName_;
-  std::array<QToolButton *, 3> optSize_;
+  std::array<BlueButton *, 3> optSize_;
 };

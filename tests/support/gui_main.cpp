@@ -1,0 +1,13 @@
+// The main of test programs that open windows.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+int main(int argc, char **argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&argc, argv);
+  QApplication app(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false); // tests open and close many
+  return RUN_ALL_TESTS();
+}

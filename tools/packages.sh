@@ -1,0 +1,83 @@
+# Sourced by play and check: installs the Debian packages that are missing.
+#
+# A package counts as there when its probe is: a command, or a file. So nothing is asked of a
+# package manager when all is there, and other systems than Debian can be served by hand.
+
+# package, and the command or file (a pattern) that shows it
+build_packages='
+g++                c++
+cmake              cmake
+ninja-build        ninja
+qt6-base-dev       /usr/lib*/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake
+libgl-dev          /usr/include/GL/gl.h
+libsdl2-dev        /usr/include/SDL2/SDL.h
+fonts-liberation   /usr/share/fonts/*/LiberationSerif-Bold.ttf
+'
+check_packages="$build_packages
+libgtest-dev       /usr/include/gtest/gtest.h
+libbenchmark-dev   /usr/include/benchmark/benchmark.h
+xvfb               Xvfb
+xdotool            xdotool
+imagemagick        import
+python3            python3
+"
+
+# is_there PROBE
+is_there() {
+  case $1 in
+  /*)
+    # The pattern may reach through a folder of the machine's architecture or of a font family.
+    for file in $1 ${1/lib\*/lib/*} ${1/fonts\/\*/fonts/*/*}; do
+      [ -e "$file" ] && return 0
+    done
+    return 1
+    ;;
+  *) command -v "$1" >/dev/null ;;
+  esac
+}
+
+# missing PACKAGES: those whose probe is not there, in one line
+missing() {
+  local package probe
+  while read -r package probe; do
+    [ -z "$package" ] || is_there "$probe" || printf '%s ' "$package"
+  done <<<"$1"
+}
+
+# ensure_packages PACKAGES: installs what is missing, or says why it cannot and ends
+ensure_packages() {
+  local lacking root=()
+  lacking=$(missing "$1")
+  [ -n "$lacking" ] || return 0
+  if ! command -v apt-get >/dev/null; then
+    echo "These packages are missing (names as in Debian 12): $lacking" >&2
+    echo "This is no Debian system: please install them by its own means, then start again." >&2
+    exit 1
+  fi
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "These packages are missing: $lacking" >&2
+      echo "Installing them takes root or sudo: apt-get install $lacking" >&2
+      exit 1
+    fi
+    root=(sudo)
+  fi
+  echo "Installing: $lacking" >&2
+  # shellcheck disable=SC2086 # a list of names
+  if ! { "${root[@]}" apt-get update -qq &&
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y \
+      --no-install-recommends $lacking; } >&2; then
+    echo "The packages could not be installed: $lacking" >&2
+    exit 1
+  fi
+  lacking=$(missing "$1")
+  if [ -n "$lacking" ]; then
+    echo "Still missing after the installation: $lacking" >&2
+    exit 1
+  fi
+}
+
+# configure PRESET TREE: makes the build tree unless it stands
+configure() {
+  [ -f "$2/build.ninja" ] || cmake --preset "$1" -Wno-dev
+}

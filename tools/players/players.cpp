@@ -1,0 +1,64 @@
+#include "players.h"
+
+#include "BoatInWork.h"
+
+namespace {
+
+constexpr int kBoatTries = 50; // new beginnings of one boat
+
+} // namespace
+
+std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &draw) {
+  std::vector<Cell> cells;
+  for (int Y = 1; Y <= grid.rows(); ++Y)
+    for (int X = 1; X <= grid.columns(); ++X)
+      if (grid.CreatePoint(BootID, X, Y))
+        cells.push_back({X, Y});
+  if (cells.empty())
+    return std::nullopt;
+  return cells[static_cast<std::size_t>(draw.draw(static_cast<int>(cells.size())) - 1)];
+}
+
+bool setRandomFleet(clsGrid &grid, RandomDraw &draw) {
+  BoatInWork boat;
+  int tries = 0;
+  while (boat.BootID <= grid.BoatCount()) {
+    if (const auto cell = randomPoint(grid, boat.BootID, draw)) {
+      if (boat.add(grid, cell->X, cell->Y))
+        continue;
+      boat.next(grid);
+      tries = 0;
+    } else {
+      boat.discard(grid);
+      if (++tries == kBoatTries)
+        return false;
+    }
+  }
+  return true;
+}
+
+RandomGunner::RandomGunner(const clsGrid &grid, RandomDraw &draw)
+    : grid_(grid), draw_(draw), lucky_(draw.draw(4) == 1) {}
+
+Cell RandomGunner::next() {
+  const auto shotAt = cells([](int, int shot) { return shot != Shot::none; });
+  if (!shotAt.empty() && draw_.draw(16) == 1)
+    return draw(shotAt);
+  if (lucky_ && draw_.draw(2) == 1)
+    return draw(cells([](int boat, int shot) { return boat != 0 && shot == Shot::none; }));
+  return draw(cells([](int, int shot) { return shot == Shot::none; }));
+}
+
+Cell RandomGunner::draw(const std::vector<Cell> &cells) {
+  return cells[static_cast<std::size_t>(draw_.draw(static_cast<int>(cells.size())) - 1)];
+}
+
+std::vector<Cell> RandomGunner::cells(bool (*wanted)(int boat, int shot)) const {
+  const Field &sea = grid_.CFeld();
+  std::vector<Cell> found;
+  for (int Y = 1; Y <= sea.rows(); ++Y)
+    for (int X = 1; X <= sea.columns(); ++X)
+      if (wanted(sea(X, Y, 1), sea(X, Y, 2)))
+        found.push_back({X, Y});
+  return found;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "clsGrid.h"
+
+#include <optional>
+#include <vector>
+
+/// Stand-ins for the human, for bulk games, tests and the demonstration. Unlike the computer they
+/// are handed the whole board.
+
+/// A random cell on which a further point of the boat may stand; nothing if there is none.
+std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &draw);
+
+/// Sets the human's whole fleet at random by the rules of placement. A boat that cannot go on is
+/// deleted and begun anew. False if no fleet came of it after many attempts; the fields must be
+/// made anew then.
+bool setRandomFleet(clsGrid &grid, RandomDraw &draw);
+
+/// Presses cells at random, now and then one again. In about one game of four the player is lucky
+/// and finds boats often enough to win.
+class RandomGunner {
+public:
+  /// For one game on a board that stands. Both must outlive the gunner.
+  RandomGunner(const clsGrid &grid, RandomDraw &draw);
+
+  /// The next press. Some cell must not have been shot at.
+  Cell next();
+
+private:
+  Cell draw(const std::vector<Cell> &cells);
+  std::vector<Cell> cells(bool (*wanted)(int boat, int shot)) const;
+
+  const clsGrid &grid_;
+  RandomDraw &draw_;
+  bool lucky_;
+};
