@@ -97,12 +97,11 @@ bool frmNeu::event(QEvent *event) {
 // A name grows by typing to 14 characters. From there on every typing key is discarded, Backspace
 // too; Delete and the choice from the list go on working.
 bool frmNeu::eventFilter(QObject *watched, QEvent *event) {
-  if (watched == &cboName_ && cboName_.currentText().size() >= kMostTyped) {
-    if (event->type() == QEvent::KeyPress && types(*static_cast<QKeyEvent *>(event)))
-      return true;
-    if (event->type() == QEvent::InputMethod &&
-        !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty())
-      return true;
-  }
+  const bool typing =
+      (event->type() == QEvent::KeyPress && types(*static_cast<QKeyEvent *>(event))) ||
+      (event->type() == QEvent::InputMethod &&
+       !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty());
+  if (typing && cboName_.currentText().size() >= kMostTyped)
+    return true;
   return Dialog::eventFilter(watched, event);
 }

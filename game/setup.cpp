@@ -24,8 +24,6 @@ void frmHaupt::setPoint(const Cell &cell) {
 
 void frmHaupt::fleetComplete() {
   player_.PlayWav(globals_.sounds.SndBoot, false);
-  if (closed())
-    return;
   player_.PlayWav(globals_.sounds.SndAlle, true);
   letEventsRun();
   if (closed())

@@ -35,8 +35,6 @@ void frmHaupt::takeTurn(const Cell &cell) {
     player_.PlayWav(globals_.sounds.SndVersenkt, false);
     break;
   }
-  if (closed())
-    return;
   if (winner == 1)
     humanWins();
   else

@@ -5,7 +5,8 @@
 /// A complete WAV file in memory; empty for silence.
 using Klang = QByteArray;
 
-/// What can be heard, and the waiting that goes with it. One sound plays at a time.
+/// What can be heard, and the waiting that goes with it. One sound plays at a time. No call lets
+/// events run.
 class SoundDevice {
 public:
   virtual ~SoundDevice() = default;

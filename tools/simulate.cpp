@@ -70,16 +70,16 @@ Fleet fleetOf(const Line &line, clsGrid &grid) {
   grid.ResetFields();
   const QJsonArray boats = line.json.array();
   Fleet fleet;
-  for (int i = 1; i <= std::max<int>(static_cast<int>(boats.size()), grid.BoatCount()); ++i) {
+  for (int i = 1; i <= std::max(static_cast<int>(boats.size()), grid.BoatCount()); ++i) {
     const QJsonArray points = boats.at(i - 1).toArray();
     const int length = i <= grid.BoatCount() ? grid.PBoote(i).length() : 0;
     std::vector<Cell> &boat = fleet.emplace_back();
-    for (int j = 1; j <= std::max<int>(static_cast<int>(points.size()), length); ++j) {
+    for (int j = 1; j <= std::max({static_cast<int>(points.size()), length, 1}); ++j) {
       const QString where = line.where + QString(": boat %1, point %2").arg(i).arg(j);
-      if (length == 0)
-        throw Error(where + QString(": the fleet has %1 boats").arg(grid.BoatCount()));
-      if (j > length || j > points.size())
-        throw Error(where + QString(": the boat has %1 points").arg(length));
+      if (j > length)
+        throw Error(where + ": is one too many");
+      if (j > points.size())
+        throw Error(where + ": is missing");
       const Cell cell = cellOf(points.at(j - 1), where);
       if (!grid.PFeld().contains(cell.X, cell.Y))
         throw Error(where + ": off the field");

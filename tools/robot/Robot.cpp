@@ -24,11 +24,17 @@ void Robot::press(const Cell &cell) {
 }
 
 void Robot::onDialog(std::function<void(QDialog &)> deed) {
-  auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-  if (dialog && dialog->isVisible())
-    deed(*dialog);
-  else
-    QTimer::singleShot(0, [deed = std::move(deed)] { onDialog(deed); });
+  static std::unique_ptr<QTimer> watch; // one deed at a time
+  watch = std::make_unique<QTimer>();
+  QObject::connect(watch.get(), &QTimer::timeout, qApp, [deed = std::move(deed)] {
+    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (!dialog || !dialog->isVisible())
+      return;
+    const auto act = deed; // outlives the watch, which the deed may replace
+    watch.reset();
+    act(*dialog);
+  });
+  watch->start(0);
 }
 
 void Robot::answer(const QString &button) {

@@ -28,8 +28,8 @@ public:
   void press(QPoint pixel, Qt::MouseButton button = Qt::LeftButton);
   void press(const Cell &cell);
 
-  /// Does something with the next modal window, once it is up. The modal call goes on when the
-  /// deed has closed it.
+  /// Does something with the next modal window, once it is up, in place of an earlier deed that
+  /// found none. The modal call goes on when the deed has closed it.
   static void onDialog(std::function<void(QDialog &)> deed);
   /// Answers the next question: `cmdOK` is Ja, `cmdAbbruch` Nein.
   static void answer(const QString &button);

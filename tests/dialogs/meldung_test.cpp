@@ -1,0 +1,47 @@
+#include "frmMeldung.h"
+#include "windows.h"
+
+namespace {
+
+TEST(frmMeldung, EachWayOutHasItsAnswer) {
+  struct Case {
+    const char *way;
+    std::function<void(QDialog &)> deed;
+    bool answer;
+  };
+  const auto click = [](const char *button) {
+    return [=](QDialog &box) { Robot::click(Robot::control(box, button)); };
+  };
+  const auto press = [](Qt::Key code, const char *text, Qt::KeyboardModifiers modifiers = {}) {
+    return [=](QDialog &box) { key(box, code, text, modifiers); };
+  };
+  const Case cases[] = {
+      {"Ja", click("cmdOK"), true},
+      {"frame after Ja", closeFrame, false}, // the answer before must not stick
+      {"Alt+J", press(Qt::Key_J, "j", Qt::AltModifier), true},
+      {"Escape after Ja", press(Qt::Key_Escape, "\x1b"), false},
+      {"Nein", click("cmdAbbruch"), false},
+      {"Alt+N", press(Qt::Key_N, "n", Qt::AltModifier), false},
+      {"Space on Ja", press(Qt::Key_Space, " "), true},
+  };
+  MainWindow main;
+  for (const Case &c : cases) {
+    SCOPED_TRACE(c.way);
+    Robot::onDialog([&](QDialog &box) {
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+      EXPECT_EQ(Robot::control<QLabel>(box, "lblMeldung").text(), c.way);
+      for (const char *focus : {"cmdAbbruch", "cmdOK"}) {
+        Robot::control(box, focus).setFocus();
+        key(box, Qt::Key_Return, "\r");
+        key(box, Qt::Key_Enter, "\r", Qt::KeypadModifier);
+        EXPECT_TRUE(box.isVisible());
+      }
+      c.deed(box);
+      EXPECT_FALSE(box.isVisible());
+      box.hide(); // so that a fault doesn't hang the test
+    });
+    EXPECT_EQ(ask(&main, c.way), c.answer);
+  }
+}
+
+} // namespace

@@ -1,0 +1,41 @@
+#include "Toolbar.h"
+#include "windows.h"
+
+namespace {
+
+TEST(Toolbar, RaisesTheKeyOfWhatIsEnabled) {
+  MainWindow main;
+  Toolbar bar(&main);
+  bar.addButton("keyNew", "&Neues Spiel", "tb-neu", "Neu", true);
+  bar.addButton("keyTop10", "&Top 10", "tb-top10", "Liste", false);
+  bar.addButton("keyEnde", "&Ausgang", "tb-ende", "Ende", true);
+  bar.setGeometry(0, 0, 701, 65);
+  bar.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+  QString raised;
+  QObject::connect(&bar, &Toolbar::clicked, [&](const QString &name) { raised += name; });
+
+  const auto click = [&](int x, int y) {
+    return [=, &main] { QTest::mouseClick(main.windowHandle(), Qt::LeftButton, {}, {x, y}); };
+  };
+  const auto alt = [&](Qt::Key code) {
+    return [=, &main] { key(main, code, QChar(code).toLower(), Qt::AltModifier); };
+  };
+  const auto space = [&] {
+    Robot::control(bar, "keyEnde").setFocus();
+    key(main, Qt::Key_Space, " ");
+  };
+  const std::pair<std::function<void()>, const char *> cases[] = {
+      {click(1, 1), "keyNew"}, {click(89, 63), "keyNew"},   {click(90, 30), ""},
+      {click(179, 30), ""},    {click(180, 1), "keyEnde"},  {click(269, 63), "keyEnde"},
+      {click(270, 30), ""},    {click(50, 64), ""},         {alt(Qt::Key_N), "keyNew"},
+      {alt(Qt::Key_T), ""},    {alt(Qt::Key_A), "keyEnde"}, {space, "keyEnde"},
+  };
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    raised.clear();
+    cases[i].first();
+    EXPECT_EQ(raised, cases[i].second) << "case " << i;
+  }
+}
+
+} // namespace

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Robot.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+/// A window to put dialogs over.
+struct MainWindow : QWidget {
+  MainWindow() {
+    resize(701, 405);
+    show();
+  }
+};
+
+/// A key as the window system delivers it: with the text that it types, to where the focus is.
+inline void key(QWidget &window, Qt::Key code, const QString &text = {},
+                Qt::KeyboardModifiers modifiers = {}) {
+  QWidget *focus = window.focusWidget();
+  QTest::sendKeyEvent(QTest::Click, focus ? focus : &window, code, text, modifiers);
+}
+
+/// A close by the frame of the window.
+inline void closeFrame(QWidget &window) {
+  window.windowHandle()->close();
+}
+
+inline void PrintTo(const QString &text, std::ostream *out) {
+  *out << text.toStdString();
+}
+inline void PrintTo(const QRect &r, std::ostream *out) {
+  *out << r.x() << ',' << r.y() << ' ' << r.width() << 'x' << r.height();
+}

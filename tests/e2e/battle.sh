@@ -1,0 +1,341 @@
+#!/usr/bin/env bash
+# Plays the real game in a window of its own X server: presses by xdotool, looks at the screen only.
+#
+# usage: battle.sh FOLDER      FOLDER holds the executable Korvel
+#
+# A look turns the screen into text, a character for each cell and counter. What a picture means is
+# learned where it must stand; unknown pictures are `x`. That a press changes nothing shows in the
+# effect of a later one, as the game takes presses in order. No pause has to be long enough.
+set -u
+[ -x "${1:-}/Korvel" ] || { echo "usage: $0 FOLDER (with the executable Korvel)" >&2; exit 2; }
+[ -n "${BATTLE_LIMITED:-}" ] ||
+  BATTLE_LIMITED=1 exec timeout -k 10 240 bash "${BASH_SOURCE[0]}" "$1"
+
+boats=("1,1 2,1 3,1 3,2" "5,1 6,1 7,1" "1,4 1,5 2,5" "9,1 10,1" "4,4 4,5" "6,3" "8,5" "10,8")
+left_to_set=(000223 000123 000023 000013 000003 000002 000001 000000) # behind each boat
+read -ra cells <<<"$(echo {1..10},{1..8})"
+printf -v water '%080d' 0
+water=${water//0/.}
+
+tmp=$(mktemp -d)
+xvfb='' game='' left='' right='' mine='' theirs='' bin=''
+declare -A meaning window wx wy
+export LC_ALL=C.UTF-8 MAGICK_THREAD_LIMIT=1
+
+cleanup() {
+  [ -z "$game" ] || kill -KILL "$game"
+  [ -z "$xvfb" ] || kill "$xvfb"
+  wait
+  rm -rf "$tmp"
+} 2>/dev/null
+trap cleanup EXIT
+trap 'exit 1' HUP INT TERM
+
+# fail WORDS...
+fail() {
+  local picture row
+  picture=$(mktemp -t korvel-battle-XXXXXX --suffix=.png)
+  import -silent -window root "$picture"
+  echo "FAILED after $SECONDS s: $*"
+  echo "Last look: mine=$mine theirs=$theirs bin=$bin, left and right field:"
+  for ((row = 0; row < 80; row += 10)); do echo "  ${left:row:10}   ${right:row:10}"; done
+  cat "$tmp"/*.log
+  echo "The screen: $picture"
+  exit 1
+} >&2
+
+# poll SECONDS COMMAND...: repeats the command until it succeeds
+poll() {
+  local end=$((SECONDS + $1))
+  shift
+  until "$@"; do
+    ((SECONDS < end && SECONDS < 225)) || return 1
+    sleep 0.1
+  done
+}
+
+# Looking.
+
+# part SIZE X Y OPTION...: adds a part of the main window to what `see` looks at
+part() {
+  parts+=('(' mpr:screen -crop "$1+$((wx[main] + $2))+$((wy[main] + $3))" +repage "${@:4}" +repage ')')
+}
+
+see() {
+  kill -0 "$game" 2>/dev/null || fail "the game has ended by itself"
+  local parts=() text='' picture
+  part 250x200 53 134 -crop 25x25
+  part 250x200 397 134 -crop 25x25
+  part 240x25 64 428 -crop 40x25 +repage -crop 33x25+0+0
+  part 240x25 408 428 -crop 40x25 +repage -crop 33x25+0+0
+  part 32x32 273 338
+  import -silent -window root "$tmp/screen.ppm" || return 1
+  mapfile -t pictures < <(convert "$tmp/screen.ppm" -write mpr:screen +delete "${parts[@]}" \
+    -format '%# %k\n' info:) # a hash and the number of colours
+  ((${#pictures[@]} == 173)) || return 1
+  for picture in "${pictures[@]}"; do text+=${meaning[$picture]:-x}; done
+  left=${text:0:80} right=${text:80:80} mine=${text:160:6} theirs=${text:166:6} bin=${text:172}
+  fired=$(count "$left" '!.#') replies=$(count "$right" '!.#')
+}
+
+# looks_so VARIABLE=VALUE...: whether a look gives these values
+looks_so() {
+  local pair variable
+  see || return 1
+  for pair; do
+    variable=${pair%%=*}
+    [ "${!variable}" = "${pair#*=}" ] || return 1
+  done
+}
+
+# await EVENT VARIABLE=VALUE...: looks until it looks so
+await() { poll 30 looks_so "${@:2}" || fail "after $1; expected ${*:2}"; }
+
+# find_window main|dialog SIZE NAME-PATTERN
+find_window() {
+  local id X Y WIDTH HEIGHT
+  for id in $(xdotool search --onlyvisible --name "$3" 2>/dev/null); do
+    WIDTH='' HEIGHT=''
+    eval "$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)"
+    [ "${WIDTH}x$HEIGHT" = "$2" ] && window[$1]=$id wx[$1]=$X wy[$1]=$Y && return
+  done
+  return 1
+}
+await_window() { poll 30 find_window "$@" || fail "expected a visible window '$3' of $2"; }
+
+# await_end EVENT: of the process, with status 0
+await_end() {
+  local status
+  poll 10 has_ended || fail "the game still runs 10 s after $1"
+  wait "$game"
+  status=$?
+  game=''
+  ((status == 0)) || fail "exit status $status after $1; expected 0"
+}
+has_ended() { ! kill -0 "$game" 2>/dev/null; }
+
+# Texts.
+
+# count TEXT SET: how many characters of the text are in the set, written as in a pattern
+count() {
+  local rest=${1//[$2]/}
+  echo $((${#1} - ${#rest}))
+}
+
+# put TEXT CHARACTER CELL...: the text of a field with these cells changed
+put() {
+  local text=$1 cell i
+  for cell in "${@:3}"; do
+    i=$((10 * (${cell#*,} - 1) + ${cell%,*} - 1))
+    text=${text:0:i}$2${text:i+1}
+  done
+  echo "$text"
+}
+
+# sunk_cells COUNTERS: the cells of the boats that are gone
+sunk_cells() {
+  local start=001223 i sum=0
+  for i in {0..5}; do ((sum += (${start:i:1} - ${1:i:1}) * (6 - i))); done
+  echo "$sum"
+}
+
+# Pressing. Afterwards the pointer stands aside, where it lights up nothing.
+
+# press main|dialog X Y [X Y]...
+press() {
+  local left=${wx[$1]} top=${wy[$1]} chain=()
+  shift
+  while (($#)); do
+    chain+=(mousemove $((left + $1)) $((top + $2)) click 1)
+    shift 2
+  done
+  xdotool "${chain[@]}" mousemove 1 1
+}
+
+press_cells() {
+  local points=() cell
+  for cell; do points+=($((25 * ${cell%,*} + 41)) $((25 * ${cell#*,} + 122))); done
+  press main "${points[@]}"
+}
+
+# answer X: presses a button of the question, which has to come up
+ja=126 nein=206
+answer() {
+  await_window dialog 354x141 '^ $'
+  press dialog "$1" 110
+}
+
+request_close() {
+  python3 - "${window[main]}" <<'PYTHON'
+import ctypes, sys
+from ctypes import c_char_p, c_int, c_long, c_ulong, c_void_p
+
+class ClientMessage(ctypes.Structure):
+    _fields_ = [("type", c_int), ("serial", c_ulong), ("send_event", c_int), ("display", c_void_p),
+                ("window", c_ulong), ("message", c_ulong), ("format", c_int), ("data", c_long * 24)]
+
+x = ctypes.CDLL("libX11.so.6")
+x.XOpenDisplay.restype = c_void_p
+x.XInternAtom.argtypes, x.XInternAtom.restype = [c_void_p, c_char_p, c_int], c_ulong
+x.XSendEvent.argtypes = [c_void_p, c_ulong, c_int, c_long, c_void_p]
+x.XCloseDisplay.argtypes = [c_void_p]
+display, window = x.XOpenDisplay(None), int(sys.argv[1])
+protocols, close = (x.XInternAtom(display, name, 0) for name in (b"WM_PROTOCOLS", b"WM_DELETE_WINDOW"))
+event = ClientMessage(33, 0, 1, display, window, protocols, 32, (close,))
+x.XSendEvent(display, window, 0, 0, ctypes.byref(event))
+x.XCloseDisplay(display)
+PYTHON
+}
+
+# The game, step by step.
+
+start() {
+  env -i PATH="$PATH" LD_LIBRARY_PATH="${LD_LIBRARY_PATH-}" LSAN_OPTIONS="${LSAN_OPTIONS-}" \
+    LC_ALL="$LC_ALL" DISPLAY="$DISPLAY" QT_QPA_PLATFORM=xcb SDL_AUDIODRIVER=dummy \
+    HOME="$tmp" XDG_CONFIG_HOME="$tmp/config" XDG_RUNTIME_DIR="$tmp/run" \
+    "$tmp/Korvel" >"$tmp/game.log" 2>&1 &
+  game=$!
+  await_window main 700x473 '^Korvel$'
+}
+
+# A new field is all water, and all counters of the computer are 0: these pictures get known.
+is_new_game() {
+  meaning=()
+  see || return 1
+  local i
+  for i in {1..159}; do [ "${pictures[i]}" = "${pictures[0]}" ] || return 1; done
+  ((${pictures[0]#* } > 2)) || return 1 # more than lines on an empty field
+  for i in {167..171}; do [ "${pictures[i]}" = "${pictures[166]}" ] || return 1; done
+  # Later pairs win: the human's counters differ where they have to.
+  meaning=(["${pictures[0]}"]=. ["${pictures[172]}"]=g ["${pictures[165]}"]=3
+    ["${pictures[163]}"]=2 ["${pictures[162]}"]=1 ["${pictures[166]}"]=0)
+  looks_so mine=001223
+}
+
+# new_game FILE KEY...: types the name with these keys and leaves its picture in the file
+new_game() {
+  press main 45 31
+  await_window dialog 284x203 '^Neues Spiel$'
+  xdotool windowfocus "${window[dialog]}" key "${@:2}"
+  press dialog 80 112 108 180 # size 1, OK
+  poll 30 is_new_game || fail "expected two new fields of size 1 and the counters 001223 and 000000"
+  convert "$tmp/screen.ppm" -crop "253x19+$((wx[main] + 52))+$((wy[main] + 114))" +repage \
+    -shave 2x2 +repage "$1"
+}
+
+# Presses that set nothing, and the dustbin.
+set_and_discard() {
+  press main 78 147 # the line between the cells 1,1 and 2,1
+  press_cells 5,4
+  await "a grid line and 5,4" left="$(put "$water" x 5,4)" bin=x
+  press_cells 6,5 6,4
+  await "a diagonal cell and 6,4" left="$(put "$water" x 5,4 6,4)" bin=x
+  press main 289 354
+  await "the dustbin" left="$water" right="$water" bin=g mine=001223 theirs=000000
+}
+
+set_fleet() {
+  local i boat
+  fleet=$water
+  for i in "${!boats[@]}"; do
+    read -ra boat <<<"${boats[i]}"
+    press_cells "${boat[@]}"
+    if ((i == 0)); then # the picture of boats gets known
+      await "boat 1" left="$(put "$water" x "${boat[@]}")" mine="${left_to_set[0]}"
+      meaning[${pictures[0]}]='#'
+    fi
+    fleet=$(put "$fleet" '#' "${boat[@]}")
+    await "boat $((i + 1))" left="$fleet" right="$water" mine="${left_to_set[i]}" theirs=000000
+  done
+  answer $ja
+  await "Ja" left="$water" right="$fleet" mine=001223 theirs=001223
+}
+
+# Shot by shot, until the picture of a miss is known from the replies; then a cell again.
+shoot_singly() {
+  local i=0 j
+  until ((i >= 3)) && [[ $right == *o* ]]; do
+    press_cells "${cells[i++]}"
+    await "shot $i" fired=$i replies=$i
+    for j in {0..79}; do
+      [ "${fleet:j:1}${right:j:1}" != .x ] || meaning[${pictures[80 + j]}]=o
+    done
+    see
+  done
+  press_cells "${cells[0]}" "${cells[i]}"
+  await "a shot at an old cell and shot $((i + 1))" fired=$((i + 1)) replies=$((i + 1))
+}
+
+is_over() { see && [[ $mine = 000000 || $theirs = 000000 ]]; }
+
+# Whether all pictures agree: each shot but a winning one was replied to, the loser's 17 cells show
+# one picture, and the winner's field has as many of it as the winner's counters tell.
+is_final() {
+  is_over || return 1
+  local loser=$left at=0 counters=$mine sunk='' i n=0 m=0
+  if [ "$mine" = 000000 ]; then
+    loser=$right at=80 counters=$theirs
+    ((fired == replies && $(count "$left" '#x') == 17)) || return 1
+  else
+    ((fired == replies + 1)) || return 1
+  fi
+  for i in {0..79}; do
+    [ "${loser:i:1}" != x ] || sunk=${pictures[at + i]}
+  done
+  for i in {0..79}; do
+    [ "${pictures[at + i]}" != "$sunk" ] || ((++n))
+    [ "${pictures[80 - at + i]}" != "$sunk" ] || ((++m))
+  done
+  ((n == 17 && $(count "$loser" x) == 17 && m == $(sunk_cells "$counters")))
+}
+
+has_fired() { see && ((fired > 0)); }
+
+for tool in Xvfb xdotool import convert setxkbmap python3; do
+  command -v $tool >/dev/null || fail "$tool is not installed"
+done
+mkdir -p "$tmp/config/Korvel"
+mkdir -m 700 "$tmp/run"
+printf '[Options]\nSound=0\nStdSize=2\n' >"$tmp/config/Korvel/Korvel.conf"
+cp "$1/Korvel" "$tmp" # what it writes beside itself stays here
+Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$tmp/display" 2>"$tmp/x.log" &
+xvfb=$!
+poll 30 test -s "$tmp/display" || fail "expected an X server"
+DISPLAY=:$(<"$tmp/display")
+export DISPLAY
+setxkbmap de || fail "expected a German keyboard"
+
+# A whole game.
+start
+new_game "$tmp/joerg.png" J odiaeresis r g
+width=$(convert "$tmp/joerg.png" -trim -format %w info:)
+((width > 15 && width < 45)) || fail "the name is $width pixels wide; expected Jörg alone"
+set_and_discard
+set_fleet
+shoot_singly
+press_cells "${cells[@]:fired}" # ahead: the game takes them one by one
+poll 200 is_over || fail "expected an end of the battle"
+poll 30 is_final || fail "expected a last picture without contradictions"
+last=("fired=$fired" "left=$left" "right=$right" "mine=$mine" "theirs=$theirs")
+press_cells "${cells[@]}"
+press main 315 31
+answer $nein
+await "presses behind the end and Nein" "${last[@]}"
+press main 315 31
+answer $ja
+await_end "Ja"
+
+# A close request while the game waits between shots.
+start
+new_game "$tmp/jorg.png" J o r g
+dots=$(convert "$tmp/joerg.png" "$tmp/jorg.png" -compose difference -composite -trim \
+  -format '%wx%h' info:)
+[[ $dots == [1-9]x[1-5] ]] || fail "Jörg and Jorg differ in $dots pixels; expected two dots"
+set_and_discard
+set_fleet
+press_cells "${cells[@]:0:10}"
+poll 30 has_fired || fail "expected a shot"
+request_close
+await_end "the close request"
+
+echo "passed in $SECONDS s; first game: ${last[*]/left=*/}"

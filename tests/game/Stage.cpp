@@ -1,0 +1,76 @@
+#include "Stage.h"
+
+#include <utility>
+
+void RecordingSound::note(const char *what, const Klang &klang) {
+  static const Sounds sounds = Sounds::load();
+  static const std::pair<const Klang *, const char *> names[] = {
+      {&sounds.SndMuell, "Muell"},       {&sounds.SndBoot, "Boot"},
+      {&sounds.SndAlle, "Alle"},         {&sounds.SndStart, "Start"},
+      {&sounds.SndWasser, "Wasser"},     {&sounds.SndDoppelt, "Doppelt"},
+      {&sounds.SndTreffer, "Treffer"},   {&sounds.SndVersenkt, "Versenkt"},
+      {&sounds.SndSieg, "Sieg"},         {&sounds.SndVerloren, "Verloren"}};
+  std::string name = klang.isEmpty() ? "silence" : "?";
+  for (const auto &[known, text] : names)
+    if (!klang.isEmpty() && *known == klang)
+      name = text;
+  const std::string seen = changes ? changes() : "";
+  log.push_back((seen.empty() ? "" : seen + ' ') + what + ' ' + name);
+  if (hook)
+    hook();
+}
+
+Stage::Stage() { open(); }
+
+void Stage::open() {
+  robot.reset();
+  window = Main(globals, services, "/nowhere");
+  robot.emplace(*window);
+  control("picpFeld").installEventFilter(&left_);
+  sound.changes = [this] { return changes(); };
+  sound.log.clear();
+}
+
+std::vector<QString> Stage::counters() {
+  std::vector<QString> texts;
+  for (const char *group : {"lblpBoote%1", "lblcBoote%1"})
+    for (int i = 0; i < 6; ++i)
+      texts.push_back(Robot::control<QLabel>(*window, QString(group).arg(i)).text());
+  return texts;
+}
+
+std::string Stage::changes() {
+  if (!window->grid()) // closed
+    return "";
+  const QImage right = Robot::control<PictureBox>(*window, "piccFeld").content();
+  std::string letters;
+  if (std::exchange(left_.paints, 0) > 0)
+    letters += 'L';
+  if (std::exchange(right_, right) != right)
+    letters += 'R';
+  if (const auto now = counters(); std::exchange(counters_, now) != now)
+    letters += 'C';
+  return letters;
+}
+
+void Stage::forget() {
+  QCoreApplication::processEvents();
+  changes();
+  sound.log.clear();
+}
+
+void Stage::startBattle(int size) {
+  robot->startBattle(size, draw);
+  ASSERT_EQ(window->Modus(), frmHaupt::Battle);
+  forget();
+}
+
+Cell Stage::fresh(int BootID) const {
+  const Field &sea = window->grid()->CFeld();
+  for (int Y = 1; Y <= sea.rows(); ++Y)
+    for (int X = 1; X <= sea.columns(); ++X)
+      if (sea(X, Y, 1) == BootID && sea(X, Y, 2) == Shot::none)
+        return {X, Y};
+  ADD_FAILURE() << "no cell is left\n" << window->grid()->toText();
+  return {1, 1};
+}

@@ -1,0 +1,137 @@
+#include "Stage.h"
+
+namespace {
+
+using FleetSetup = Stage;
+using Log = std::vector<std::string>;
+
+// Every pixel from before the border to beyond it, along a row and a column through the cells, at
+// every size: only the inside of a cell takes a press.
+TEST_F(FleetSetup, OnlyCellsTakePresses) {
+  for (int size = 1; size <= 3; ++size) {
+    newGame(size);
+    const clsGrid &grid = *window->grid();
+    const int p = grid.CellSize() + 1;
+    const auto &field = Robot::control<PictureBox>(*window, "picpFeld");
+    const auto tryAt = [&](QPoint pixel) {
+      robot->press(pixel);
+      const bool inside = pixel.x() % p != 0 && pixel.y() % p != 0 && pixel.x() > 0 &&
+                          pixel.y() > 0 && pixel.x() < p * grid.columns() &&
+                          pixel.y() < p * grid.rows();
+      ASSERT_EQ(grid.PBoote(1).hasPoints(), inside) << pixel.x() << ", " << pixel.y();
+      if (inside) {
+        ASSERT_EQ(grid.PBoote(1).cell(1), (Cell{pixel.x() / p + 1, pixel.y() / p + 1}));
+        Robot::click(control("imgMüll"));
+      }
+    };
+    for (int x = -1; x <= field.innerWidth(); ++x)
+      tryAt({x, p * 2 + 3});
+    for (int y = -1; y <= field.innerHeight(); ++y)
+      tryAt({p * 2 + 3, y});
+  }
+}
+
+TEST_F(FleetSetup, OtherButtonsDoNothing) {
+  newGame(1);
+  robot->press(QPoint(12, 12), Qt::RightButton);
+  robot->press(QPoint(12, 12), Qt::MiddleButton);
+  EXPECT_FALSE(window->grid()->PBoote(1).hasPoints());
+}
+
+TEST_F(FleetSetup, BinIsRedWhileABoatIsInWork) {
+  newGame(1);
+  auto &bin = Robot::control<ImageButton>(*window, "imgMüll");
+  const auto isRed = [&] { return bin.picture().cacheKey() == globals.MuellIcon[1].cacheKey(); };
+  EXPECT_TRUE(bin.isVisible());
+  EXPECT_FALSE(bin.isEnabled() || isRed());
+  for (int x = 1; x <= 4; ++x) {
+    robot->press(Cell{x, 1});
+    EXPECT_EQ(bin.isEnabled(), x < 4);
+    EXPECT_EQ(isRed(), x < 4);
+  }
+  EXPECT_EQ(counters()[2], "0");
+  robot->press(Cell{5, 1});
+  robot->press(Cell{5, 2});
+  EXPECT_FALSE(bin.isEnabled()) << "beside a boat nothing was set";
+
+  robot->press(Cell{1, 3});
+  robot->press(Cell{2, 3});
+  robot->press(Cell{3, 4});
+  forget();
+  Robot::click(bin);
+  EXPECT_EQ(sound.log, Log{"start Muell"});
+  EXPECT_FALSE(bin.isEnabled() || isRed());
+  EXPECT_FALSE(window->grid()->PBoote(2).hasPoints());
+  EXPECT_TRUE(window->grid()->PBoote(1).hasPoints());
+  EXPECT_EQ(counters()[3], "2");
+  robot->press(Cell{8, 8});
+  EXPECT_EQ(window->grid()->PBoote(2).cell(1), (Cell{8, 8})) << "the same boat, from its first point";
+}
+
+TEST_F(FleetSetup, WholeFleetIsAskedForAndMoves) {
+  newGame(1);
+  const Cell last = robot->setFleetButOne(draw);
+  forget();
+  Robot::onDialog([&](QDialog &dialog) {
+    EXPECT_EQ(sound.log, (Log{"start Boot", "LC wait Boot", "start Alle"}));
+    EXPECT_EQ(Robot::control<QLabel>(dialog, "lblMeldung").text(),
+              "Alle Boote wurden gesetzt.\r\n\r\nBist Du mit der Aufstellung zufrieden?");
+    EXPECT_EQ(counters(), std::vector<QString>(12, "0"));
+    EXPECT_FALSE(control("imgMüll").isEnabled());
+    EXPECT_TRUE(control("imgMüll").isVisible());
+    Robot::click(Robot::control(dialog, "cmdOK"));
+  });
+  robot->press(last);
+  EXPECT_EQ(sound.log.back(), "start Start");
+  EXPECT_EQ(window->Modus(), frmHaupt::Battle);
+  EXPECT_FALSE(control("imgMüll").isVisible());
+  const std::vector<QString> full{"0", "0", "1", "2", "2", "3"};
+  auto both = full;
+  both.insert(both.end(), full.begin(), full.end());
+  EXPECT_EQ(counters(), both);
+
+  // The left field is water again, the right one shows the fleet.
+  const QImage left = Robot::control<PictureBox>(*window, "picpFeld").content();
+  const QImage right = Robot::control<PictureBox>(*window, "piccFeld").content();
+  for (int Y = 1; Y <= 8; ++Y)
+    for (int X = 1; X <= 10; ++X) {
+      const QRect cell(25 * (X - 1) + 1, 25 * (Y - 1) + 1, 24, 24);
+      EXPECT_EQ(left.copy(cell), globals.sprites.stretched(Picture::picWasser, 24, 24));
+      const bool boat = window->grid()->PFeld()(X, Y, 1) != 0;
+      EXPECT_EQ(right.copy(cell),
+                globals.sprites.stretched(boat ? Picture::picBoot : Picture::picWasser, 24, 24));
+    }
+}
+
+TEST_F(FleetSetup, NeinStartsOverWithANewFleetOfTheComputer) {
+  newGame(1);
+  const Cell last = robot->setFleetButOne(draw);
+  std::vector<Cell> before;
+  for (int i = 1; i <= 8; ++i)
+    before.push_back(window->grid()->CBoote(i).cell(1));
+  Robot::answer("cmdAbbruch");
+  robot->press(last);
+  EXPECT_EQ(window->Modus(), frmHaupt::Setup);
+  EXPECT_EQ(counters()[5], "3");
+  std::vector<Cell> after;
+  for (int i = 1; i <= 8; ++i) {
+    EXPECT_FALSE(window->grid()->PBoote(i).hasPoints());
+    after.push_back(window->grid()->CBoote(i).cell(1));
+  }
+  EXPECT_NE(after, before);
+  robot->press(Cell{1, 1});
+  EXPECT_EQ(window->grid()->PBoote(1).cell(1), (Cell{1, 1}));
+}
+
+TEST_F(FleetSetup, NewGameInTheMiddleBeginsFromTheBeginning) {
+  newGame(1);
+  for (int x = 1; x <= 5; ++x)
+    robot->press(Cell{x, x == 5 ? 3 : 1});
+  newGame(1);
+  EXPECT_FALSE(control("imgMüll").isEnabled());
+  EXPECT_FALSE(window->grid()->PBoote(1).hasPoints());
+  robot->press(Cell{10, 8});
+  EXPECT_EQ(window->grid()->PBoote(1).cell(1), (Cell{10, 8}));
+}
+
+} // namespace
