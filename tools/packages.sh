@@ -14,6 +14,7 @@ libsdl2-dev        /usr/include/SDL2/SDL.h
 fonts-liberation   /usr/share/fonts/*/LiberationSerif-Bold.ttf
 '
 check_packages="$build_packages
+qt6-base-private-dev /usr/include/*/qt6/QtGui/*/QtGui/qpa/qwindowsysteminterface.h
 libgtest-dev       /usr/include/gtest/gtest.h
 libbenchmark-dev   /usr/include/benchmark/benchmark.h
 xvfb               Xvfb

@@ -102,6 +102,7 @@ TEST_F(frmNeuTest, AFullNameStillTakesDeleteArrowsAndAccessKeys) {
   EXPECT_EQ(name(), "");
   cboName->setEditText(kFull);
   key(*dialog, Qt::Key_O, "o", Qt::AltModifier);
+  EXPECT_TRUE(closes(*dialog));
   EXPECT_EQ(started, "2 'abcdefghijklmn'");
 }
 
@@ -137,7 +138,7 @@ TEST_F(frmNeuTest, EachWayOutStartsItsGameOnceOrNone) {
   for (const Case &c : cases) {
     open(c.size, c.name);
     c.way();
-    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(closes(*dialog));
     EXPECT_EQ(started, c.started);
   }
 }

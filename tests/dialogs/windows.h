@@ -20,6 +20,11 @@ inline void key(QWidget &window, Qt::Key code, const QString &text = {},
   QTest::sendKeyEvent(QTest::Click, focus ? focus : &window, code, text, modifiers);
 }
 
+/// An access key clicks a little later, when the button has shown itself pressed.
+inline bool closes(QWidget &window) {
+  return QTest::qWaitFor([&] { return !window.isVisible(); });
+}
+
 /// A close by the frame of the window.
 inline void closeFrame(QWidget &window) {
   window.windowHandle()->close();

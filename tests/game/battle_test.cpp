@@ -1,12 +1,8 @@
 #include "Stage.h"
 
-#include <QTest>
 #include <QWindow>
 
-// Queues a press as the window system does. Exported by QtGui for tests.
-Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, const QPointF &global,
-                                      Qt::MouseButtons state, Qt::MouseButton button,
-                                      QEvent::Type type, Qt::KeyboardModifiers mods, int timestamp);
+#include <qpa/qwindowsysteminterface.h>
 
 namespace {
 
@@ -120,11 +116,10 @@ TEST_F(Battle, QueuedPressesDoNotNest) {
   const auto queue = [&](QWidget &target, QPoint at) {
     QWindow *handle = window->windowHandle();
     const QPointF local = target.mapTo(window.get(), at);
-    for (const auto &[buttons, type] : {std::pair{Qt::MouseButtons(Qt::LeftButton),
-                                                  QEvent::MouseButtonPress},
-                                        {Qt::MouseButtons(), QEvent::MouseButtonRelease}})
-      qt_handleMouseEvent(handle, local, handle->mapToGlobal(local), buttons, Qt::LeftButton, type,
-                          {}, 0);
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+      QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
+          handle, local, handle->mapToGlobal(local),
+          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type);
   };
   const auto middle = [&](const Cell &cell) {
     return QPoint(25 * cell.X - 12, 25 * cell.Y - 12);

@@ -134,7 +134,7 @@ TEST_P(PictureBoxTest, ShowsItsContentInsideABlackBorderAlsoAfterHiding) {
 TEST_P(PictureBoxTest, PressesCarryPixelsOfTheDrawingArea) {
   std::vector<std::array<int, 3>> presses;
   QObject::connect(&box, &PictureBox::pressed, [&](Qt::MouseButton button, int x, int y) {
-    presses.push_back({button, x, y});
+    presses.push_back({static_cast<int>(button), x, y});
   });
   QWindow *handle = window.windowHandle();
   for (const QPoint &p : {QPoint(0, 0), QPoint(1, 1), QPoint(w, h), QPoint(w + 1, h + 1),

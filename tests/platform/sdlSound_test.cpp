@@ -10,6 +10,7 @@ namespace {
 
 constexpr qint16 kFirst = 0x1234;
 constexpr qint16 kSecond = 0x2345;
+constexpr qint16 kThird = 0x3456;
 
 /// A WAV file in the rate of the device, 16 bits mono, with the same sample throughout.
 Klang tone(int ms, qint16 sample) {
@@ -62,7 +63,8 @@ TEST_F(SdlSoundTest, ANewSoundCutsTheOneBeforeAndAnEmptyOneStops) {
   EXPECT_TRUE(hears(kFirst));
   EXPECT_TRUE(sound.playToEnd(tone(20, kSecond)));
   EXPECT_TRUE(hears(kSecond)); // well before a minute is over
-  sound.start(tone(60'000, kFirst));
+  sound.start(tone(60'000, kThird));
+  EXPECT_TRUE(hears(kThird));
   sound.start({});
   EXPECT_TRUE(hears([](const QByteArray &file) { return file.endsWith(QByteArray(4096, 0)); }));
 }
