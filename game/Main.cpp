@@ -16,7 +16,7 @@ void dressApplication() {
   QApplication::setApplicationName("Korvel");
   QGuiApplication::setDesktopFileName("korvel");
   QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+  for (const int size : {16, 24, 32, 48, 64})
     icon.addFile(QString(":/pictures/korvel-%1.png").arg(size));
   QApplication::setWindowIcon(icon);
 }

@@ -113,7 +113,7 @@ void frmHaupt::buildToolbar() {
 
 void frmHaupt::buildFields() {
   picHinten.setGeometry(QRect({0, kToolbarHeight + kGap}, kBackground));
-  picHinten.setPixmap(loadPicture("haupt-hintergrund"));
+  picHinten.setPixmap(loadPicture("haupt-hintergrund", "jpg"));
 
   picpFeld.setObjectName("picpFeld");
   picpFeld.setAccessibleName("Linkes Feld");

@@ -5,6 +5,12 @@
 #include <QApplication>
 #include <QTimer>
 
+namespace {
+
+constexpr int kSoundDelay = 300; // ms
+
+}
+
 int main(int argc, char **argv) {
   // Whole steps keep the grid lines sharp.
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -18,7 +24,7 @@ int main(int argc, char **argv) {
   QtMessageBox messages;
   Globals globals;
   const auto window = Main(globals, {draw, sound, settings, messages}, app.applicationDirPath());
-  // Behind the first frame: opening the sound card takes longer than the whole start.
-  QTimer::singleShot(0, [&] { sound.open(); });
+  // Opening the sound card can take longer than the whole start, so the first frames come before.
+  QTimer::singleShot(kSoundDelay, [&] { sound.open(); });
   return QApplication::exec();
 }

@@ -2,9 +2,9 @@
 
 #include <QGuiApplication>
 
-QPixmap loadPicture(const QString &name) {
+QPixmap loadPicture(const QString &name, const QString &suffix) {
   const bool dense = qApp->devicePixelRatio() > 1;
-  QPixmap pixmap(":/pictures/" + name + (dense ? "@2x.png" : ".png"));
+  QPixmap pixmap(":/pictures/" + name + (dense ? "@2x." : ".") + suffix);
   Q_ASSERT(!pixmap.isNull());
   return pixmap;
 }

@@ -5,4 +5,4 @@
 
 /// The picture `name` that the program carries inside, in the size of the design; on screens of
 /// twice the density from its double-size version. A name that isn't there stops debug builds.
-QPixmap loadPicture(const QString &name);
+QPixmap loadPicture(const QString &name, const QString &suffix = "png");
