@@ -138,6 +138,9 @@ private:
   bool CheckContact(int BootID, int X, int Y) const;
   bool CheckBlock(int X, int Y) const;
 
+  bool hit(Field &field, tBoot &boot, Surface &surface, int X, int Y);
+  void sink(Field &field, tBoot &boot, Surface &surface);
+
   void InitPictures();
   void ClearPictures();
   void show(Picture picture, Surface &surface, int X, int Y) const;

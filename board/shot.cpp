@@ -19,21 +19,29 @@ ShotCode clsGrid::Shoot(int X, int Y) {
   }
 
   tBoot &boot = CBoote_[boat(b)];
+  const bool afloat = hit(CFeld_, boot, *PicPlayer_, X, Y);
+  if (!afloat)
+    sink(CFeld_, boot, *PicPlayer_);
+  verify();
+  return afloat ? ShotCode::hit : ShotCode::sunk;
+}
+
+// Enters a hit of either side. A boat that floats on shows it; for one that doesn't `sink` follows.
+bool clsGrid::hit(Field &field, tBoot &boot, Surface &surface, int X, int Y) {
   for (int j = 1; j <= boot.length(); ++j)
     if (boot.cell(j) == Cell{X, Y})
       boot.setStatus(j, tBoot::hit);
-  CFeld_(X, Y, 2) = Shot::hit;
+  field(X, Y, 2) = Shot::hit;
+  if (!boot.isAfloat())
+    return false;
+  show(Picture::picTreffer, surface, X, Y);
+  return true;
+}
 
-  if (boot.isAfloat()) {
-    show(Picture::picTreffer, *PicPlayer_, X, Y);
-    verify();
-    return ShotCode::hit;
-  }
+void clsGrid::sink(Field &field, tBoot &boot, Surface &surface) {
   for (int j = 1; j <= boot.length(); ++j) {
-    show(Picture::picVersenkt, *PicPlayer_, boot.X(j), boot.Y(j));
+    show(Picture::picVersenkt, surface, boot.X(j), boot.Y(j));
     boot.setStatus(j, tBoot::sunk);
-    CFeld_(boot.X(j), boot.Y(j), 2) = Shot::sunk;
+    field(boot.X(j), boot.Y(j), 2) = Shot::sunk;
   }
-  verify();
-  return ShotCode::sunk;
 }

@@ -44,13 +44,8 @@ ShotCode clsGrid::ComputerShoot() {
   }
 
   // 3. A hit.
-  tBoot &boot = PBoote_[clsGrid::boat(b)];
-  for (int j = 1; j <= boot.length(); ++j)
-    if (boot.cell(j) == Cell{X, Y})
-      boot.setStatus(j, tBoot::hit);
-  PFeld_(X, Y, 2) = Shot::hit;
-  if (boot.isAfloat()) {
-    show(Picture::picTreffer, *PicComputer_, X, Y);
+  tBoot &boot = PBoote_[boat(b)];
+  if (hit(PFeld_, boot, *PicComputer_, X, Y)) {
     Treffer = static_cast<std::uint8_t>(b);
     verify();
     return ShotCode::hit;
@@ -58,11 +53,7 @@ ShotCode clsGrid::ComputerShoot() {
 
   // 4. A sinking. The water around comes first, as it is also written over the boat.
   MarkAroundBoat(b);
-  for (int j = 1; j <= boot.length(); ++j) {
-    show(Picture::picVersenkt, *PicComputer_, boot.X(j), boot.Y(j));
-    boot.setStatus(j, tBoot::sunk);
-    PFeld_(boot.X(j), boot.Y(j), 2) = Shot::sunk;
-  }
+  sink(PFeld_, boot, *PicComputer_);
   Treffer = 0;
   verify();
   return ShotCode::sunk;

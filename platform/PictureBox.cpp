@@ -63,6 +63,8 @@ void PictureBox::filledBox(int x1, int y1, int x2, int y2, Colour colour) {
 }
 
 void PictureBox::fill(const QRect &area, Colour colour) {
+  if (area.isEmpty())
+    return;
   QPainter(&content_).fillRect(area, colourOf(colour));
   update(area.translated(kBorder, kBorder));
 }
@@ -83,7 +85,6 @@ void PictureBox::mousePressEvent(QMouseEvent *event) {
 
 void PictureBox::paintEvent(QPaintEvent *) {
   QPainter painter(this);
-  painter.setPen(Qt::black);
-  painter.drawRect(0, 0, width() - 1, height() - 1);
+  painter.fillRect(rect(), Qt::black); // of which the border stays
   painter.drawImage(kBorder, kBorder, content_);
 }

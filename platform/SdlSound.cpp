@@ -12,7 +12,8 @@ constexpr int kRate = 44100; // frames per second
 constexpr int kChannels = 2;
 constexpr SDL_AudioFormat kFormat = AUDIO_S16SYS;
 constexpr int kBytesPerSecond = kRate * kChannels * 2;
-constexpr int kBufferFrames = 1024; // 23 ms, the longest that a cut sound goes on
+constexpr int kBufferFrames = 1024; // 23 ms: so much of a cut sound goes on
+constexpr std::chrono::milliseconds kBufferTime{1000 * kBufferFrames / kRate + 1};
 constexpr std::chrono::seconds kRetry{10};
 
 QByteArray decode(const Klang &klang) {
@@ -80,7 +81,7 @@ bool SdlSound::playToEnd(const Klang &klang) {
   const auto length = play(klang);
   if (!length)
     return false;
-  std::this_thread::sleep_for(*length);
+  std::this_thread::sleep_for(*length + kBufferTime);
   return true;
 }
 

@@ -52,15 +52,12 @@ std::vector<Line> readLines(const QString &path) {
 
 Cell cellOf(const QJsonValue &value, const QString &where) {
   const QJsonArray pair = value.toArray();
-  const auto number = [&](int i) {
-    const double d = pair.at(i).toDouble(0.5);
-    if (d != static_cast<int>(d))
-      throw Error(where + ": not a pair of whole numbers");
-    return static_cast<int>(d);
-  };
-  if (pair.size() != 2)
+  constexpr int none = std::numeric_limits<int>::min();
+  const int X = pair.at(0).toInt(none);
+  const int Y = pair.at(1).toInt(none);
+  if (pair.size() != 2 || X == none || Y == none)
     throw Error(where + ": not a pair of whole numbers");
-  return {number(0), number(1)};
+  return {X, Y};
 }
 
 /// A fleet that keeps to the rules; `grid` has the size and is used to try it.

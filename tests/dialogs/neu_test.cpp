@@ -43,6 +43,10 @@ TEST_F(frmNeuTest, OpensWithTheLastGameReadyToBeOverwritten) {
     EXPECT_EQ(edit->selectedText(), "Jörg");
     key(*dialog, Qt::Key_X, "x");
     EXPECT_EQ(name(), "x");
+    control("cmdOK").setFocus();
+    dialog->hide();
+    dialog->show();
+    EXPECT_EQ(dialog->focusWidget(), cboName);
   }
 }
 

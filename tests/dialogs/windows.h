@@ -20,7 +20,7 @@ inline void key(QWidget &window, Qt::Key code, const QString &text = {},
   QTest::sendKeyEvent(QTest::Click, focus ? focus : &window, code, text, modifiers);
 }
 
-/// An access key clicks a little later, when the button has shown itself pressed.
+/// Waits for a window to close: an access key clicks only when its button has been seen pressed.
 inline bool closes(QWidget &window) {
   return QTest::qWaitFor([&] { return !window.isVisible(); });
 }

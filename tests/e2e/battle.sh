@@ -8,14 +8,16 @@
 # effect of a later one, as the game takes presses in order. No pause has to be long enough.
 set -u
 [ -x "${1:-}/Korvel" ] || { echo "usage: $0 FOLDER (with the executable Korvel)" >&2; exit 2; }
+for tool in Xvfb setxkbmap xdotool import convert python3; do
+  command -v $tool >/dev/null || { echo "$tool is missing" >&2; exit 1; }
+done
 [ -n "${BATTLE_LIMITED:-}" ] ||
   BATTLE_LIMITED=1 exec timeout -k 10 240 bash "${BASH_SOURCE[0]}" "$1"
 
 boats=("1,1 2,1 3,1 3,2" "5,1 6,1 7,1" "1,4 1,5 2,5" "9,1 10,1" "4,4 4,5" "6,3" "8,5" "10,8")
-left_to_set=(000223 000123 000023 000013 000003 000002 000001 000000) # behind each boat
+still_to_set=(000223 000123 000023 000013 000003 000002 000001 000000) # behind each boat
 read -ra cells <<<"$(echo {1..10},{1..8})"
-printf -v water '%080d' 0
-water=${water//0/.}
+printf -v water '.%.0s' {1..80}
 
 tmp=$(mktemp -d)
 xvfb='' game='' left='' right='' mine='' theirs='' bin=''
@@ -31,8 +33,7 @@ cleanup() {
 trap cleanup EXIT
 trap 'exit 1' HUP INT TERM
 
-# fail WORDS...
-fail() {
+fail() { # WORDS...
   local picture row
   picture=$(mktemp -t korvel-battle-XXXXXX --suffix=.png)
   import -silent -window root "$picture"
@@ -47,8 +48,7 @@ fail() {
 # poll SECONDS COMMAND...: repeats the command until it succeeds
 poll() {
   local end=$((SECONDS + $1))
-  shift
-  until "$@"; do
+  until "${@:2}"; do
     ((SECONDS < end && SECONDS < 225)) || return 1
     sleep 0.1
   done
@@ -56,7 +56,7 @@ poll() {
 
 # Looking.
 
-# part SIZE X Y OPTION...: adds a part of the main window to what `see` looks at
+# part SIZE X Y OPTION...: a part of the main window for `see`, and how it is cut
 part() {
   parts+=('(' mpr:screen -crop "$1+$((wx[main] + $2))+$((wy[main] + $3))" +repage "${@:4}" +repage ')')
 }
@@ -75,48 +75,10 @@ see() {
   ((${#pictures[@]} == 173)) || return 1
   for picture in "${pictures[@]}"; do text+=${meaning[$picture]:-x}; done
   left=${text:0:80} right=${text:80:80} mine=${text:160:6} theirs=${text:166:6} bin=${text:172}
-  fired=$(count "$left" '!.#') replies=$(count "$right" '!.#')
+  shots=$(count "$left" '!.#') replies=$(count "$right" '!.#')
 }
 
-# looks_so VARIABLE=VALUE...: whether a look gives these values
-looks_so() {
-  local pair variable
-  see || return 1
-  for pair; do
-    variable=${pair%%=*}
-    [ "${!variable}" = "${pair#*=}" ] || return 1
-  done
-}
-
-# await EVENT VARIABLE=VALUE...: looks until it looks so
-await() { poll 30 looks_so "${@:2}" || fail "after $1; expected ${*:2}"; }
-
-# find_window main|dialog SIZE NAME-PATTERN
-find_window() {
-  local id X Y WIDTH HEIGHT
-  for id in $(xdotool search --onlyvisible --name "$3" 2>/dev/null); do
-    WIDTH='' HEIGHT=''
-    eval "$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)"
-    [ "${WIDTH}x$HEIGHT" = "$2" ] && window[$1]=$id wx[$1]=$X wy[$1]=$Y && return
-  done
-  return 1
-}
-await_window() { poll 30 find_window "$@" || fail "expected a visible window '$3' of $2"; }
-
-# await_end EVENT: of the process, with status 0
-await_end() {
-  local status
-  poll 10 has_ended || fail "the game still runs 10 s after $1"
-  wait "$game"
-  status=$?
-  game=''
-  ((status == 0)) || fail "exit status $status after $1; expected 0"
-}
-has_ended() { ! kill -0 "$game" 2>/dev/null; }
-
-# Texts.
-
-# count TEXT SET: how many characters of the text are in the set, written as in a pattern
+# count TEXT SET: how many characters of the text are in the set, which is written as in a pattern
 count() {
   local rest=${1//[$2]/}
   echo $((${#1} - ${#rest}))
@@ -132,21 +94,48 @@ put() {
   echo "$text"
 }
 
-# sunk_cells COUNTERS: the cells of the boats that are gone
-sunk_cells() {
-  local start=001223 i sum=0
-  for i in {0..5}; do ((sum += (${start:i:1} - ${1:i:1}) * (6 - i))); done
-  echo "$sum"
+# await EVENT VARIABLE=VALUE...: looks until a look gives these values
+await() { poll 30 looks_so "${@:2}" || fail "after $1; expected ${*:2}"; }
+looks_so() {
+  local pair variable
+  see || return 1
+  for pair; do
+    variable=${pair%%=*}
+    [ "${!variable}" = "${pair#*=}" ] || return 1
+  done
 }
+
+# await_window main|dialog SIZE NAME-PATTERN
+await_window() { poll 30 find_window "$@" || fail "expected a visible window '$3' of $2"; }
+find_window() {
+  local id X Y WIDTH HEIGHT
+  for id in $(xdotool search --onlyvisible --name "$3" 2>/dev/null); do
+    WIDTH='' HEIGHT=''
+    eval "$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)"
+    [ "${WIDTH}x$HEIGHT" = "$2" ] && window[$1]=$id wx[$1]=$X wy[$1]=$Y && return
+  done
+  return 1
+}
+
+# await_end EVENT: of the process, with status 0
+await_end() {
+  local status
+  poll 10 has_ended || fail "the game still runs 10 s after $1"
+  wait "$game"
+  status=$?
+  game=''
+  ((status == 0)) || fail "exit status $status after $1; expected 0"
+}
+has_ended() { ! kill -0 "$game" 2>/dev/null; }
 
 # Pressing. Afterwards the pointer stands aside, where it lights up nothing.
 
 # press main|dialog X Y [X Y]...
 press() {
-  local left=${wx[$1]} top=${wy[$1]} chain=()
+  local x=${wx[$1]} y=${wy[$1]} chain=()
   shift
   while (($#)); do
-    chain+=(mousemove $((left + $1)) $((top + $2)) click 1)
+    chain+=(mousemove $((x + $1)) $((y + $2)) click 1)
     shift 2
   done
   xdotool "${chain[@]}" mousemove 1 1
@@ -198,21 +187,7 @@ start() {
   await_window main 700x473 '^Korvel$'
 }
 
-# A new field is all water, and all counters of the computer are 0: these pictures get known.
-is_new_game() {
-  meaning=()
-  see || return 1
-  local i
-  for i in {1..159}; do [ "${pictures[i]}" = "${pictures[0]}" ] || return 1; done
-  ((${pictures[0]#* } > 2)) || return 1 # more than lines on an empty field
-  for i in {167..171}; do [ "${pictures[i]}" = "${pictures[166]}" ] || return 1; done
-  # Later pairs win: the human's counters differ where they have to.
-  meaning=(["${pictures[0]}"]=. ["${pictures[172]}"]=g ["${pictures[165]}"]=3
-    ["${pictures[163]}"]=2 ["${pictures[162]}"]=1 ["${pictures[166]}"]=0)
-  looks_so mine=001223
-}
-
-# new_game FILE KEY...: types the name with these keys and leaves its picture in the file
+# new_game FILE KEY...: types a name by these keys, leaves its picture in the file
 new_game() {
   press main 45 31
   await_window dialog 284x203 '^Neues Spiel$'
@@ -223,6 +198,18 @@ new_game() {
     -shave 2x2 +repage "$1"
 }
 
+# New fields are all water, and all counters of the computer are 0: these pictures get known.
+is_new_game() {
+  local i
+  see || return 1
+  for i in {1..159}; do [ "${pictures[i]}" = "${pictures[0]}" ] || return 1; done
+  ((${pictures[0]#* } > 2)) || return 1 # more than lines on an empty field
+  for i in {167..171}; do [ "${pictures[i]}" = "${pictures[166]}" ] || return 1; done
+  meaning=(["${pictures[0]}"]=. ["${pictures[172]}"]=grey ["${pictures[165]}"]=3
+    ["${pictures[163]}"]=2 ["${pictures[162]}"]=1 ["${pictures[166]}"]=0)
+  looks_so mine=001223 theirs=000000
+}
+
 # Presses that set nothing, and the dustbin.
 set_and_discard() {
   press main 78 147 # the line between the cells 1,1 and 2,1
@@ -231,7 +218,7 @@ set_and_discard() {
   press_cells 6,5 6,4
   await "a diagonal cell and 6,4" left="$(put "$water" x 5,4 6,4)" bin=x
   press main 289 354
-  await "the dustbin" left="$water" right="$water" bin=g mine=001223 theirs=000000
+  await "the dustbin" left="$water" right="$water" bin=grey mine=001223 theirs=000000
 }
 
 set_fleet() {
@@ -241,59 +228,45 @@ set_fleet() {
     read -ra boat <<<"${boats[i]}"
     press_cells "${boat[@]}"
     if ((i == 0)); then # the picture of boats gets known
-      await "boat 1" left="$(put "$water" x "${boat[@]}")" mine="${left_to_set[0]}"
+      await "boat 1" left="$(put "$water" x "${boat[@]}")" mine="${still_to_set[0]}"
       meaning[${pictures[0]}]='#'
     fi
     fleet=$(put "$fleet" '#' "${boat[@]}")
-    await "boat $((i + 1))" left="$fleet" right="$water" mine="${left_to_set[i]}" theirs=000000
+    await "boat $((i + 1))" left="$fleet" right="$water" mine="${still_to_set[i]}" theirs=000000
   done
   answer $ja
   await "Ja" left="$water" right="$fleet" mine=001223 theirs=001223
 }
 
-# Shot by shot, until the picture of a miss is known from the replies; then a cell again.
+# Shot by shot until a reply has missed, whose picture gets known as `o`; then cells again.
 shoot_singly() {
   local i=0 j
   until ((i >= 3)) && [[ $right == *o* ]]; do
     press_cells "${cells[i++]}"
-    await "shot $i" fired=$i replies=$i
+    await "shot $i" shots=$i replies=$i
     for j in {0..79}; do
       [ "${fleet:j:1}${right:j:1}" != .x ] || meaning[${pictures[80 + j]}]=o
     done
     see
   done
-  press_cells "${cells[0]}" "${cells[i]}"
-  await "a shot at an old cell and shot $((i + 1))" fired=$((i + 1)) replies=$((i + 1))
+  press_cells "${cells[0]}" "${cells[1]}" "${cells[i]}"
+  await "two repeated cells and shot $((i + 1))" shots=$((i + 1)) replies=$((i + 1))
 }
 
 is_over() { see && [[ $mine = 000000 || $theirs = 000000 ]]; }
+has_moved() { see && [ "$left$right$mine$theirs" != "$before" ]; }
+has_fired() { see && ((shots > 0)); }
 
-# Whether all pictures agree: each shot but a winning one was replied to, the loser's 17 cells show
-# one picture, and the winner's field has as many of it as the winner's counters tell.
+# Every shot but a winning one got one reply; the left field shows the computer's whole fleet.
 is_final() {
-  is_over || return 1
-  local loser=$left at=0 counters=$mine sunk='' i n=0 m=0
-  if [ "$mine" = 000000 ]; then
-    loser=$right at=80 counters=$theirs
-    ((fired == replies && $(count "$left" '#x') == 17)) || return 1
+  is_over && (($(count "$left" '#x') == 17)) || return 1
+  if [ "$theirs" = 000000 ]; then
+    ((shots == replies + 1))
   else
-    ((fired == replies + 1)) || return 1
+    ((shots == replies && $(count "$right" x) == 17))
   fi
-  for i in {0..79}; do
-    [ "${loser:i:1}" != x ] || sunk=${pictures[at + i]}
-  done
-  for i in {0..79}; do
-    [ "${pictures[at + i]}" != "$sunk" ] || ((++n))
-    [ "${pictures[80 - at + i]}" != "$sunk" ] || ((++m))
-  done
-  ((n == 17 && $(count "$loser" x) == 17 && m == $(sunk_cells "$counters")))
 }
 
-has_fired() { see && ((fired > 0)); }
-
-for tool in Xvfb xdotool import convert setxkbmap python3; do
-  command -v $tool >/dev/null || fail "$tool is not installed"
-done
 mkdir -p "$tmp/config/Korvel"
 mkdir -m 700 "$tmp/run"
 printf '[Options]\nSound=0\nStdSize=2\n' >"$tmp/config/Korvel/Korvel.conf"
@@ -313,10 +286,13 @@ width=$(convert "$tmp/joerg.png" -trim -format %w info:)
 set_and_discard
 set_fleet
 shoot_singly
-press_cells "${cells[@]:fired}" # ahead: the game takes them one by one
-poll 200 is_over || fail "expected an end of the battle"
-poll 30 is_final || fail "expected a last picture without contradictions"
-last=("fired=$fired" "left=$left" "right=$right" "mine=$mine" "theirs=$theirs")
+press_cells "${cells[@]:shots}" # ahead: the game takes them one by one
+until is_over; do
+  before=$left$right$mine$theirs
+  poll 30 has_moved || fail "expected that the game takes the presses that were sent ahead"
+done
+poll 30 is_final || fail "expected as many replies as shots and 17 boat cells on the loser's field"
+last=("left=$left" "right=$right" "mine=$mine" "theirs=$theirs")
 press_cells "${cells[@]}"
 press main 315 31
 answer $nein
@@ -324,6 +300,7 @@ await "presses behind the end and Nein" "${last[@]}"
 press main 315 31
 answer $ja
 await_end "Ja"
+result="$shots shots, $replies replies, counters $mine and $theirs"
 
 # A close request while the game waits between shots.
 start
@@ -338,4 +315,4 @@ poll 30 has_fired || fail "expected a shot"
 request_close
 await_end "the close request"
 
-echo "passed in $SECONDS s; first game: ${last[*]/left=*/}"
+echo "passed in $SECONDS s; first game: $result"
