@@ -39,6 +39,14 @@ void dress(QLabel &label, const QRect &place, const LabelLook &look) {
     label.setFrameStyle(QFrame::Box | QFrame::Plain); // in the colour of the text
 }
 
+QLabel *makePicture(QWidget *parent, const QRect &place, const QString &picture) {
+  auto *label = new QLabel(parent);
+  label->setGeometry(place);
+  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  label->setPixmap(loadPicture(picture));
+  return label;
+}
+
 BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
                        const QString &caption, const QString &toolTip)
     : QPushButton(caption, parent) {
@@ -50,36 +58,48 @@ BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
   setAttribute(Qt::WA_Hover);
 }
 
+// Past QAbstractButton's handler, which takes the other options of a group out of the tab order.
+void BlueButton::focusInEvent(QFocusEvent *event) { QWidget::focusInEvent(event); }
+
+// Some desktops count Enter as a key that presses a button.
+void BlueButton::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    event->ignore();
+  else
+    QPushButton::keyPressEvent(event);
+}
+
 void BlueButton::paintEvent(QPaintEvent *) {
   const bool sunken = isDown() || isChecked();
   QPainter painter(this);
 
-  // 1. The plate: an edge of light from the upper left, the other way round when it is down.
-  const QRect plate = rect().adjusted(0, 0, -1, -1);
-  const QColor face = isChecked() ? kLightBlue.darker(118) : kLightBlue;
-  painter.fillRect(rect(), underMouse() && !sunken ? kLightBlue.lighter(108) : face);
-  painter.setPen(sunken ? kLightBlue.darker(170) : QColor(Qt::white));
-  painter.drawPolyline(QPolygon({plate.bottomLeft() + QPoint(1, -1), plate.topLeft() + QPoint(1, 1),
-                                 plate.topRight() + QPoint(-1, 1)}));
-  painter.setPen(sunken ? QColor(Qt::white) : kLightBlue.darker(150));
-  painter.drawPolyline(QPolygon({plate.bottomLeft() + QPoint(1, -1),
-                                 plate.bottomRight() + QPoint(-1, -1),
-                                 plate.topRight() + QPoint(-1, 1)}));
-  painter.setPen(kLightBlue.darker(300));
-  painter.drawRect(plate);
+  // 1. The plate: an edge of light from the upper left, the other way round when it is down. Edges
+  // are filled, not drawn, so that they are whole pixels at every density.
+  const QColor lit = Qt::white;
+  const QColor shaded = kLightBlue.darker(sunken ? 170 : 150);
+  const QColor face = isChecked()                 ? kLightBlue.darker(118)
+                      : underMouse() && !sunken ? kLightBlue.lighter(108)
+                                                : kLightBlue;
+  const QRect plate = rect().adjusted(1, 1, -1, -1);
+  painter.fillRect(rect(), kLightBlue.darker(300));
+  painter.fillRect(plate, sunken ? lit : shaded);
+  painter.fillRect(plate.adjusted(0, 0, -1, -1), sunken ? shaded : lit);
+  painter.fillRect(plate.adjusted(1, 1, -1, -1), face);
 
   // 2. What stands on it.
   const QRect inside = rect().translated(isDown() ? 1 : 0, isDown() ? 1 : 0);
   const bool pictured = !icon().isNull();
-  if (pictured)
-    icon().paint(&painter, QRect({inside.x() + (width() - iconSize().width()) / 2, inside.y() + 2},
-                                 iconSize()));
+  if (pictured) {
+    const int x = inside.x() + (width() - iconSize().width()) / 2;
+    const int y = inside.y() + (text().isEmpty() ? (height() - iconSize().height()) / 2 : 2);
+    icon().paint(&painter, QRect({x, y}, iconSize()));
+  }
   painter.setPen(Qt::black);
   painter.drawText(pictured ? inside.adjusted(0, iconSize().height(), 0, 0) : inside,
                    Qt::AlignCenter | Qt::TextShowMnemonic, text());
   if (hasFocus()) {
     painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
-    painter.drawRect(plate.adjusted(3, 3, -3, -3));
+    painter.drawRect(plate.adjusted(2, 2, -3, -3));
   }
 }
 
@@ -109,9 +129,17 @@ Dialog::Dialog(QWidget *main, QSize inner, const QString &title)
     : QDialog(main, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                         Qt::WindowCloseButtonHint) {
   setWindowTitle(title);
+  fixPlace(inner);
+}
+
+Dialog::Dialog(QWidget *main, QSize inner) : QDialog(main, Qt::Dialog | Qt::FramelessWindowHint) {
+  fixPlace(inner);
+}
+
+void Dialog::fixPlace(QSize inner) {
   setFixedSize(inner);
-  const QSize spare = main->size() - inner;
-  move(main->frameGeometry().topLeft() + QPoint(spare.width() / 2, spare.height() / 2));
+  const QSize spare = parentWidget()->size() - inner;
+  move(parentWidget()->frameGeometry().topLeft() + QPoint(spare.width() / 2, spare.height() / 2));
 }
 
 void Dialog::keyPressEvent(QKeyEvent *event) {

@@ -28,6 +28,9 @@ struct LabelLook {
 };
 void dress(QLabel &label, const QRect &place, const LabelLook &look);
 
+/// A label that shows the top left of a picture.
+QLabel *makePicture(QWidget *parent, const QRect &place, const QString &picture);
+
 /// A light blue button, caption or picture over caption. No key is bound to it but the access key
 /// of its caption and, with the focus, Space.
 class BlueButton : public QPushButton {
@@ -38,6 +41,8 @@ public:
              const QString &toolTip = {});
 
 protected:
+  void focusInEvent(QFocusEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 };
 
@@ -61,14 +66,20 @@ private:
   QPixmap picture_;
 };
 
-/// A modal window of the game: of fixed size, with a frame that closes it, centred over the main
-/// window when it is made. Enter and Escape press nothing by themselves.
+/// A modal window of the game: of fixed size, centred over the main window when it is made. Enter
+/// and Escape press nothing by themselves.
 class Dialog : public QDialog {
   Q_OBJECT
 
 public:
+  /// With a frame that closes it.
   Dialog(QWidget *main, QSize inner, const QString &title);
+  /// Without a frame.
+  Dialog(QWidget *main, QSize inner);
 
 protected:
   void keyPressEvent(QKeyEvent *event) override;
+
+private:
+  void fixPlace(QSize inner);
 };

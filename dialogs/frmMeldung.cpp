@@ -1,19 +1,16 @@
 #include "frmMeldung.h"
 
-#include "pictures.h"
 
 #include <QKeyEvent>
 
-frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, " ") {
-  auto *picHintergrund = new QLabel(this);
-  picHintergrund->setGeometry(2, 2, 349, 137);
-  picHintergrund->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  picHintergrund->setPixmap(loadPicture("meldung-hintergrund"));
+frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, " " /* an empty title would become the program's name */) {
+  auto *picHintergrund = makePicture(this, {2, 2, 349, 137}, "meldung-hintergrund");
 
   lblMeldung_.setParent(picHintergrund);
   lblMeldung_.setObjectName("lblMeldung");
   dress(lblMeldung_, {16, 16, 313, 57},
         {serifFont(11.25), palette().color(QPalette::WindowText), kLightBlue, true, true});
+  lblMeldung_.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 
   auto *cmdOK = new BlueButton(picHintergrund, "cmdOK", {88, 96, 73, 25}, "&Ja");
   auto *cmdAbbruch = new BlueButton(picHintergrund, "cmdAbbruch", {168, 96, 73, 25}, "&Nein");

@@ -1,7 +1,6 @@
 #include "frmNeu.h"
 
 #include "EventPump.h"
-#include "pictures.h"
 
 #include <QCompleter>
 #include <QInputMethodEvent>
@@ -16,17 +15,20 @@ constexpr int kMostTyped = 14; // characters
 // nor the keys that move.
 bool types(const QKeyEvent &key) {
   return !key.text().isEmpty() && key.key() != Qt::Key_Delete && key.key() != Qt::Key_Tab &&
-         key.key() != Qt::Key_Backtab && !key.modifiers().testFlag(Qt::AltModifier);
+         key.key() != Qt::Key_Backtab;
+}
+
+// A letter with Alt that is no access key here (those come before). The line would insert it.
+bool isStray(const QKeyEvent &key) {
+  return types(key) && key.modifiers().testFlag(Qt::AltModifier) &&
+         !key.modifiers().testFlag(Qt::ControlModifier);
 }
 
 } // namespace
 
 frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
     : Dialog(main, {284, 203}, "Neues Spiel"), start_(std::move(start)) {
-  auto *background = new QLabel(this);
-  background->setGeometry(rect());
-  background->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  background->setPixmap(loadPicture("neu-hintergrund"));
+  makePicture(this, rect(), "neu-hintergrund");
 
   auto *lblName = new QLabel("Name des Spielers:", this);
   auto *lblSize = new QLabel("Spielfeld:", this);
@@ -42,6 +44,7 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
   cboName_.setEditable(true);
   cboName_.setInsertPolicy(QComboBox::NoInsert);
   cboName_.setCompleter(nullptr);
+  cboName_.lineEdit()->setContextMenuPolicy(Qt::NoContextMenu); // it would be English
   cboName_.setFont(sansFont(9.75, QFont::Bold));
   cboName_.setToolTip("Gib hier Deinen Namen ein.");
   QPalette palette = cboName_.palette();
@@ -64,7 +67,7 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
       new BlueButton(this, "cmdOK", {80, 168, 57, 25}, "&OK!", "Einstellungen übernehmen");
   auto *cmdAbbruch =
       new BlueButton(this, "cmdAbbruch", {144, 168, 57, 25}, "&Abbruch", "Dialog abbrechen");
-  connect(cmdOK, &QPushButton::clicked, this, &frmNeu::accepted);
+  connect(cmdOK, &QPushButton::clicked, this, &frmNeu::cmdOK_Click);
   connect(cmdAbbruch, &QPushButton::clicked, this, &QWidget::close);
 
   cboName_.setEditText(name);
@@ -78,7 +81,7 @@ int frmNeu::GetSize() const {
   return 0;
 }
 
-void frmNeu::accepted() {
+void frmNeu::cmdOK_Click() {
   if (cboName_.currentText().isEmpty())
     cboName_.setEditText("Unbekannt");
   const QString name = cboName_.currentText();
@@ -97,8 +100,11 @@ bool frmNeu::event(QEvent *event) {
 // A name grows by typing to 14 characters. From there on every typing key is discarded, Backspace
 // too; Delete and the choice from the list go on working.
 bool frmNeu::eventFilter(QObject *watched, QEvent *event) {
+  const auto *key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event) : nullptr;
+  if (key && isStray(*key))
+    return true;
   const bool typing =
-      (event->type() == QEvent::KeyPress && types(*static_cast<QKeyEvent *>(event))) ||
+      (key && types(*key)) ||
       (event->type() == QEvent::InputMethod &&
        !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty());
   if (typing && cboName_.currentText().size() >= kMostTyped)

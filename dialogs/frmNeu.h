@@ -26,7 +26,7 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-  void accepted();
+  void cmdOK_Click();
 
   Start start_;
   QComboBox cboName_;

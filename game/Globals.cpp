@@ -1,17 +1,6 @@
 #include "Globals.h"
 
-#include <QResource>
-
-namespace {
-
-Klang loadSound(const QString &name) {
-  const QResource resource(":/sounds/" + name + ".wav");
-  Q_ASSERT(resource.isValid());
-  // A view of the executable's own bytes, which stay.
-  return Klang::fromRawData(reinterpret_cast<const char *>(resource.data()), resource.size());
-}
-
-} // namespace
+#include "sounds.h"
 
 Sounds Sounds::load() {
   return {.SndMuell = loadSound("muell"),

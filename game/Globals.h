@@ -3,6 +3,7 @@
 #include "MessageBox.h"
 #include "PictureBox.h"
 #include "RandomDraw.h"
+#include "Score.h"
 #include "Settings.h"
 #include "SettingsStore.h"
 #include "SoundDevice.h"
@@ -16,7 +17,7 @@
 struct Services {
   RandomDraw &draw;
   SoundDevice &sound;
-  SettingsStore &settings;
+  SettingsStore &store;
   MessageBox &messages;
 };
 
@@ -38,6 +39,7 @@ struct Globals {
   std::array<QPixmap, 2> MuellIcon; ///< the dustbin: 0 grey, 1 red
   Sprites sprites;
   Settings settings;
+  Score score{{}}; ///< the top ten
 };
 
 /// The path of a data file in the program's folder, which may end in a separator or not.

@@ -28,10 +28,14 @@ std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const
   globals.sounds = Sounds::load();
   globals.MuellIcon = {loadPicture("muell-grau"), loadPicture("muell-rot")};
   globals.sprites = Sprites::load();
-  globals.settings = Settings::read(services.settings);
+  globals.settings = Settings::read(services.store);
+  globals.score = Score(std::filesystem::path(globals.ScorePath.toStdU16String()));
+  const Score::Loaded loaded = globals.score.open();
+  if (loaded == Score::Loaded::damaged || loaded == Score::Loaded::unreadable)
+    services.messages.warning("Achtung!", Score::kDamaged);
 
   auto window = std::make_unique<frmHaupt>(globals, services);
-  window->setModus(0);
+  window->setModus(frmHaupt::Idle);
   window->show();
   return window;
 }

@@ -1,19 +1,53 @@
-// The end of a game.
+// The end of a game: file the result, celebrate it, shut the fields.
 
 #include "EventPump.h"
 #include "frmHaupt.h"
 
+#include <utility>
+
 void frmHaupt::humanWins() {
-  player_.PlayWav(globals_.sounds.SndSieg, true);
-  letEventsRun();
-  if (!closed())
-    setModus(Over);
+  const std::string name = Grid->PlayerName();
+  const auto place = globals_.score.EnterScore(Grid->Size(), name, BombenZahl_[0]);
+  if (!place) {
+    scoreServices().fatal(Score::kSaveFailed);
+    return;
+  }
+  Bomben_ = QString::number(BombenZahl_[0]);
+  celebrate(0, *place,
+            QString::fromStdString(name) + ", Du hast den Sieg errungen.\r\n" +
+                (*place > 0 ? QString("Somit hast Du es auf den %1. Platz geschafft.").arg(*place)
+                            : "Zu den Besten gehörst Du leider trotzdem nicht!"),
+            globals_.sounds.SndSieg);
 }
 
 void frmHaupt::computerWins() {
   Grid->ShowComputerBoats();
-  player_.PlayWav(globals_.sounds.SndVerloren, true);
+  const auto place = globals_.score.EnterScore(Grid->Size(), "Computer", BombenZahl_[1]);
+  if (!place) {
+    scoreServices().fatal(Score::kSaveFailed);
+    return;
+  }
+  Bomben_ = QString::number(BombenZahl_[1]);
+  celebrate(1, *place,
+            "Der Computer hat wiedermal gegen Dich gewonnen.\r\n" +
+                (*place > 0 ? QString("Somit hat er es auf den %1. Platz geschafft.").arg(*place)
+                            : "Er gehört trotzdem nicht zu den Besten!"),
+            globals_.sounds.SndVerloren);
+}
+
+void frmHaupt::celebrate(int Bild, int Platz, const QString &sentence, const Klang &klang) {
+  // Unloaded by its buttons; closing the main window must not destroy it while it is open.
+  const std::unique_ptr<frmSieg> dialog = std::exchange(frmSieg_, nullptr);
+  dialog->setBild(Bild, Bomben_);
+  if (closed())
+    return;
+  dialog->setPlatz(Platz);
+  player_.PlayWav(klang, true);
   letEventsRun();
+  if (closed())
+    return;
+  dialog->setText(sentence);
+  dialog->exec();
   if (!closed())
     setModus(Over);
 }

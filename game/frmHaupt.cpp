@@ -14,6 +14,7 @@ namespace {
 
 // All in pixels.
 constexpr QSize kClient(700, 473);
+constexpr int kTitleBar = 25; // as the design assumes it
 constexpr int kToolbarHeight = 65;
 constexpr int kGap = 3; // 50 twips between toolbar and background
 constexpr QSize kBackground(701, 405);
@@ -41,7 +42,7 @@ struct Command {
 constexpr std::array kCommands{
     Command{"keyNew", "&Neues Spiel", "tb-neu", "Neues Spiel beginnen.", true},
     Command{"keyOptionen", "&Optionen", "tb-optionen", "Spieleinstellungen ändern", false},
-    Command{"keyTop10", "&Top 10", "tb-top10", "Zeigt die Bestenliste.", false},
+    Command{"keyTop10", "&Top 10", "tb-top10", "Zeigt die Bestenliste.", true},
     Command{"keyEnde", "&Ausgang", "tb-ende", "Spiel verlassen", true},
     Command{"keyHilfe", "&Hilfe", "tb-hilfe", "Einige Infos rund ums Spiel.", false},
 };
@@ -95,9 +96,9 @@ frmHaupt::frmHaupt(Globals &globals, const Services &services)
   Grid->ChangePicSize = [this] { Grid_ChangePicSize(); };
   Grid->setSize(globals_.settings.StdSize);
 
-  const QRect available = screen()->geometry();
-  move(available.x() + (available.width() - width()) / 2,
-       available.y() + (available.height() - height()) / 2);
+  const QRect area = screen()->geometry();
+  move(area.x() + (area.width() - width()) / 2,
+       area.y() + (area.height() - height() - kTitleBar) / 2);
 }
 
 void frmHaupt::buildToolbar() {
@@ -167,9 +168,20 @@ void frmHaupt::runCommand(const QString &key) {
     return;
   if (key == "keyNew")
     DoNew();
+  else if (key == "keyTop10")
+    DoTop10();
   else if (key == "keyEnde")
     DoEnde();
 }
+
+ScoreServices frmHaupt::scoreServices() {
+  return {globals_.score, *Grid, player_, [this](const QString &text) {
+            services_.messages.warning("Korvel", text);
+            close();
+          }};
+}
+
+void frmHaupt::DoTop10() { frmScore(this, scoreServices()).showModally(); }
 
 void frmHaupt::DoEnde() {
   if (ask(this, "\r\nWillst Du das Spiel wirklich beenden?"))
@@ -185,6 +197,7 @@ void frmHaupt::Form_Unload() {
   if (closed())
     return;
   Grid.reset();
+  frmSieg_.reset();
   while (QWidget *dialog = QApplication::activeModalWidget()) // a question without its game
     if (!dialog->close())
       break;

@@ -8,6 +8,7 @@
 #include "Toolbar.h"
 #include "clsGrid.h"
 #include "controls.h"
+#include "frmSieg.h"
 
 #include <QLabel>
 #include <QWidget>
@@ -38,9 +39,11 @@ public:
 
   /// The board; null once the window is closed.
   const clsGrid *grid() const { return Grid.get(); }
-  std::uint8_t Modus() const { return Modus_; }
+  Mode Modus() const { return Modus_; }
   /// Stores the mode, then does what belongs to entering it.
-  void setModus(std::uint8_t mode);
+  void setModus(Mode mode);
+  /// The winner's bomb count as decimal text, written at the end of a game.
+  const QString &Bomben() const { return Bomben_; }
   /// Bombs dropped in this game, by the human (0) and the computer (1).
   int BombenZahl(int side) const { return BombenZahl_[static_cast<std::size_t>(side)]; }
 
@@ -55,7 +58,9 @@ private:
   void runCommand(const QString &key);
   void Form_Unload();
   void Grid_ChangePicSize();
+  void DoTop10();
   void DoEnde();
+  ScoreServices scoreServices();
   bool closed() const { return !Grid; }
 
   // modes.cpp: modes, new game, press
@@ -64,7 +69,7 @@ private:
   int UpdateBoote();
   void DoNew();
   void startGame(int size, const QString &name);
-  void picpFeld_MouseDown(Qt::MouseButton button, double X, double Y);
+  void picpFeld_MouseDown(Qt::MouseButton button, int X, int Y);
 
   // setup.cpp: the human's fleet
   void setPoint(const Cell &cell);
@@ -79,6 +84,7 @@ private:
   // end.cpp: the end of a game
   void humanWins();
   void computerWins();
+  void celebrate(int Bild, int Platz, const QString &sentence, const Klang &klang);
 
   Globals &globals_;
   const Services services_;
@@ -94,7 +100,9 @@ private:
   std::array<QLabel, 6> lblcBoote;
 
   std::unique_ptr<clsGrid> Grid;
-  std::uint8_t Modus_ = Idle;
+  Mode Modus_ = Idle;
   std::array<int, 2> BombenZahl_{};
+  QString Bomben_;
   BoatInWork boat_; ///< `BootID` and `TeilNr`
+  std::unique_ptr<frmSieg> frmSieg_; ///< loaded for the end of the game, not shown before
 };

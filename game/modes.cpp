@@ -5,7 +5,7 @@
 #include "frmNeu.h"
 #include "press.h"
 
-void frmHaupt::setModus(std::uint8_t mode) {
+void frmHaupt::setModus(Mode mode) {
   Modus_ = mode;
   switch (mode) {
   case Idle:
@@ -24,8 +24,6 @@ void frmHaupt::setModus(std::uint8_t mode) {
   case Over:
     enableFields(false);
     Grid->Treffer = 0;
-    break;
-  default:
     break;
   }
 }
@@ -62,6 +60,8 @@ void frmHaupt::DoNew() {
                 [this](int size, const QString &name) { startGame(size, name); });
   dialog.exec();
   letEventsRun();
+  if (!closed() && !frmSieg_)
+    frmSieg_ = std::make_unique<frmSieg>(this, scoreServices());
 }
 
 void frmHaupt::startGame(int size, const QString &name) {
@@ -72,7 +72,7 @@ void frmHaupt::startGame(int size, const QString &name) {
   setModus(Setup);
 }
 
-void frmHaupt::picpFeld_MouseDown(Qt::MouseButton button, double X, double Y) {
+void frmHaupt::picpFeld_MouseDown(Qt::MouseButton button, int X, int Y) {
   if (closed() || Modus_ == Over || button != Qt::LeftButton)
     return;
   const auto cell =

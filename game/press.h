@@ -6,4 +6,4 @@
 
 /// The cell under a press on a field, in pixels of its drawing area, `width` by `height`; nothing
 /// on a grid line or beyond the cells. `cellSize` is the edge of a cell without its line.
-std::optional<Cell> cellAt(double X, double Y, int width, int height, int cellSize);
+std::optional<Cell> cellAt(int X, int Y, int width, int height, int cellSize);

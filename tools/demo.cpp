@@ -11,6 +11,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QPainter>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
@@ -66,9 +67,17 @@ void playBattle(frmHaupt &window, Robot &robot, Camera &camera, RandomDraw &draw
   for (int j = 1; j <= boat.length(); ++j)
     press(boat.cell(j));
   camera.shoot("6-sinking");
+
+  Robot::onDialog([&](QDialog &end) {
+    camera.shoot("7-end", &end);
+    Robot::onDialog([&](QDialog &topTen) {
+      camera.shoot("8-top-ten", &topTen);
+      topTen.close();
+    });
+    Robot::click(Robot::control(end, "cmdJa"));
+  });
   while (window.Modus() == frmHaupt::Battle)
     press(gunner.next());
-  camera.shoot("7-end");
 }
 
 void play(const QString &folder, int size) {
@@ -77,7 +86,8 @@ void play(const QString &folder, int size) {
   MemoryStore store;
   QtMessageBox messages;
   Globals globals;
-  const auto window = Main(globals, {draw, sound, store, messages}, folder);
+  const QTemporaryDir data; // the top ten of this one game
+  const auto window = Main(globals, {draw, sound, store, messages}, data.path());
   Robot robot(*window);
   Camera camera(*window, folder);
   camera.shoot("1-start");

@@ -1,15 +1,19 @@
 #include "Stage.h"
 
+#include "sounds.h"
+
 #include <utility>
 
 void RecordingSound::note(const char *what, const Klang &klang) {
   static const Sounds sounds = Sounds::load();
+  static const Klang top10 = loadSound("top10");
   static const std::pair<const Klang *, const char *> names[] = {
       {&sounds.SndMuell, "Muell"},       {&sounds.SndBoot, "Boot"},
       {&sounds.SndAlle, "Alle"},         {&sounds.SndStart, "Start"},
       {&sounds.SndWasser, "Wasser"},     {&sounds.SndDoppelt, "Doppelt"},
       {&sounds.SndTreffer, "Treffer"},   {&sounds.SndVersenkt, "Versenkt"},
-      {&sounds.SndSieg, "Sieg"},         {&sounds.SndVerloren, "Verloren"}};
+      {&sounds.SndSieg, "Sieg"},         {&sounds.SndVerloren, "Verloren"},
+      {&top10, "Top10"}};
   std::string name = klang.isEmpty() ? "silence" : "?";
   for (const auto &[known, text] : names)
     if (!klang.isEmpty() && *known == klang)
@@ -24,7 +28,7 @@ Stage::Stage() { open(); }
 
 void Stage::open() {
   robot.reset();
-  window = Main(globals, services, "/nowhere");
+  window = Main(globals, services, folder.path());
   robot.emplace(*window);
   control("picpFeld").installEventFilter(&left_);
   sound.changes = [this] { return changes(); };
@@ -63,6 +67,23 @@ void Stage::startBattle(int size) {
   robot->startBattle(size, draw);
   ASSERT_EQ(window->Modus(), frmHaupt::Battle);
   forget();
+}
+
+void Stage::winAsHuman() {
+  for (int i = 1; window->grid() && i <= window->grid()->BoatCount(); ++i)
+    while (window->grid() && window->Modus() == frmHaupt::Battle &&
+           !window->grid()->CBoote(i).isSunk())
+      robot->press(fresh(i));
+}
+
+void Stage::letComputerWin() {
+  // Water as long as there is some, then boats other than the first.
+  int water = 0;
+  for (int Y = 1; Y <= window->grid()->rows(); ++Y)
+    for (int X = 1; X <= window->grid()->columns(); ++X)
+      water += window->grid()->CFeld()(X, Y, 1) == 0 && window->grid()->CFeld()(X, Y, 2) == 0;
+  while (window->grid() && window->Modus() == frmHaupt::Battle)
+    robot->press(fresh(water-- > 0 ? 0 : window->grid()->CBoote(2).isSunk() ? 3 : 2));
 }
 
 Cell Stage::fresh(int BootID) const {

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTemporaryDir>
 
 #include <functional>
 
@@ -35,6 +36,7 @@ struct RecordingMessages : MessageBox {
   void critical(const QString &title, const QString &text) override {
     shown.push_back(title + '|' + text);
   }
+  void warning(const QString &title, const QString &text) override { critical(title, text); }
 };
 
 /// The real main window with everything outside it replaced.
@@ -49,12 +51,16 @@ protected:
   void forget();
   /// From the new-game command to the battle; forgets the log.
   void startBattle(int size);
+  /// Presses until the game is over; the end's dialog has to be answered.
+  void winAsHuman();
+  void letComputerWin();
   /// A cell of the hidden fleet that was not shot at: of the boat, or water for boat 0.
   Cell fresh(int BootID) const;
 
   ScriptedDraw draw;
   RecordingSound sound;
   MemoryStore store;
+  QTemporaryDir folder; ///< of the data files
   RecordingMessages messages;
   Globals globals;
   Services services{draw, sound, store, messages};

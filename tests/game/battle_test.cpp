@@ -55,9 +55,8 @@ TEST_F(Battle, RepeatedCellCostsNothingAndGetsNoReply) {
 
 TEST_F(Battle, WinningShotGetsNoReply) {
   startBattle(2);
-  for (int i = 1; i <= 12; ++i)
-    while (window->Modus() == frmHaupt::Battle && !window->grid()->CBoote(i).isSunk())
-      robot->press(fresh(i));
+  Robot::answer("cmdNein");
+  winAsHuman();
   ASSERT_EQ(window->Modus(), frmHaupt::Over);
   EXPECT_EQ(window->BombenZahl(0), 29);
   EXPECT_EQ(window->BombenZahl(1), 28);
@@ -77,16 +76,11 @@ TEST_F(Battle, WinningShotGetsNoReply) {
 
 TEST_F(Battle, ComputerWinsAndShowsWhatWasLeft) {
   startBattle(1);
-  int presses = 0;
-  while (window->Modus() == frmHaupt::Battle) {
-    // Water as long as there is some, then all boats but the first.
-    const int boat = ++presses <= 63 ? 0 : window->grid()->CBoote(2).isSunk() ? 3 : 2;
-    robot->press(fresh(boat));
-  }
+  Robot::answer("cmdNein");
+  letComputerWin();
   ASSERT_EQ(winnerOf(window->grid()->BoatTable(2)), 2) << "this seed serves";
   EXPECT_EQ(window->BombenZahl(0), window->BombenZahl(1));
-  EXPECT_EQ(Log(sound.log.end() - 2, sound.log.end()), (Log{"RC start Versenkt", "start Verloren"}))
-      << "the revealed boats are painted by the next events";
+  EXPECT_EQ(Log(sound.log.end() - 2, sound.log.end()), (Log{"RC start Versenkt", "L start Verloren"}));
   const auto [X, Y] = window->grid()->CBoote(1).cell(1);
   EXPECT_EQ(Robot::control<PictureBox>(*window, "picpFeld")
                 .content()

@@ -17,6 +17,8 @@ struct Closing : Stage {
     EXPECT_FALSE(window->isVisible()) << where;
     EXPECT_EQ(window->grid(), nullptr) << where;
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << where;
+    for (const QWidget *widget : QApplication::topLevelWidgets())
+      EXPECT_FALSE(widget->isVisible()) << where << ": " << widget->metaObject()->className();
     ASSERT_FALSE(sound.log.empty()) << where;
     EXPECT_EQ(sound.log.back(), "start silence") << where << ": nothing is heard after the end";
     // What arrives late finds nothing and touches nothing.
@@ -100,23 +102,19 @@ TEST_F(Closing, WithTheEventsOfEveryHandler) {
        [&] {
          startBattle(1);
          sound.hook = [&] {
-           if (sound.log.back() == "start Sieg")
+           if (sound.log.back().ends_with("Sieg"))
              closeSoon();
          };
-         for (int i = 1; i <= 8; ++i)
-           while (window->grid() && window->Modus() == frmHaupt::Battle &&
-                  !window->grid()->CBoote(i).isSunk())
-             robot->press(fresh(i));
+         winAsHuman();
        }},
       {"the computer's victory",
        [&] {
          startBattle(1);
          sound.hook = [&] {
-           if (sound.log.back() == "start Verloren")
+           if (sound.log.back().ends_with("Verloren"))
              closeSoon();
          };
-         for (int presses = 1; window->grid() && presses < 80; ++presses)
-           robot->press(fresh(presses <= 63 ? 0 : window->grid()->CBoote(2).isSunk() ? 3 : 2));
+         letComputerWin();
        }},
   };
   for (const auto &[where, act] : points) {
@@ -146,6 +144,29 @@ TEST_F(Closing, WithADialogOpen) {
   for (const Cell &cell : kFleet)
     robot->press(cell);
   expectEnded("the question of the fleet");
+
+  open();
+  Robot::onDialog(closeMain);
+  robot->command("keyTop10");
+  expectEnded("the top ten");
+
+  open();
+  startBattle(1);
+  Robot::onDialog(closeMain);
+  winAsHuman();
+  expectEnded("the end of a game");
+
+  open();
+  startBattle(1);
+  Robot::onDialog([&](QDialog &end) {
+    Robot::onDialog([&](QDialog &topTen) {
+      Robot::onDialog(closeMain); // the question of clearing
+      Robot::click(Robot::control(topTen, "cmdClear"));
+    });
+    Robot::click(Robot::control(end, "cmdJa"));
+  });
+  letComputerWin();
+  expectEnded("the question over the hidden top ten");
 }
 
 } // namespace

@@ -1,0 +1,58 @@
+#include "frmSieg.h"
+
+#include "EventPump.h"
+#include "pictures.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+constexpr QColor kWine(0xAC, 0x0D, 0x4D);
+constexpr int kBannerTop = 16; // pixels
+
+}
+
+frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
+    : Dialog(main, {388, 228}), services_(services) {
+  picHinten_.setGeometry(2, 2, 385, 225);
+  picHinten_.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  picHinten_.setPixmap(loadPicture("sieg-hintergrund"));
+  imgTitle_.setObjectName("imgTitle");
+  lblText_.setObjectName("lblText");
+  lblBomben_.setObjectName("lblBomben");
+
+  const QFont small = sansFont(9.75, QFont::Bold);
+  dress(lblText_, {8, 64, 369, 49}, {.font = small, .text = Qt::white, .wrapped = true});
+  dress(lblBomben_, {4, 112, 373, 25}, {sansFont(15.75, QFont::Bold), kWine});
+  dress(*new QLabel("Möchtest Du die Highscore-Tabelle ansehen?", &picHinten_), {8, 160, 369, 17},
+        {small, Qt::white});
+
+  auto *cmdJa = new BlueButton(&picHinten_, "cmdJa", {112, 192, 73, 25}, "&Ja");
+  auto *cmdNein = new BlueButton(&picHinten_, "cmdNein", {192, 192, 73, 25}, "&Nein");
+  connect(cmdJa, &QPushButton::clicked, this, &frmSieg::showScores);
+  connect(cmdNein, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void frmSieg::setBild(int Bild, const QString &Bomben) {
+  Bild_ = Bild;
+  const QPixmap banner = loadPicture(Bild == 0 ? "banner-sieg" : "banner-verloren");
+  const QSize size = banner.deviceIndependentSize().toSize();
+  imgTitle_.setPixmap(banner);
+  imgTitle_.setGeometry(QRect({(picHinten_.width() - size.width()) / 2, kBannerTop}, size));
+  letEventsRun();
+  lblBomben_.setText("Mit nur " + Bomben + " Wasserbomben!");
+}
+
+void frmSieg::showScores() {
+  frmScore window(parentWidget(), services_);
+  close();
+  window.setPlatz(Platz_);
+  window.showModally();
+}
+
+void frmSieg::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Escape)
+    close();
+  else
+    Dialog::keyPressEvent(event);
+}

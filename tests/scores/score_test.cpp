@@ -1,0 +1,215 @@
+#include "Score.h"
+#include "windows1252.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct ScoreTest : testing::Test {
+  fs::path folder = fs::temp_directory_path() /
+                    ("korvel-score-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+                     testing::UnitTest::GetInstance()->current_test_info()->name());
+  fs::path file = folder / "Score.hsc";
+  Score score{file};
+
+  void SetUp() override {
+    fs::remove_all(folder);
+    fs::create_directory(folder);
+  }
+  void TearDown() override { fs::remove_all(folder); }
+
+  void write(const std::string &bytes) const {
+    std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<long>(bytes.size()));
+  }
+  std::string read(const fs::path &path) const {
+    std::ostringstream bytes;
+    bytes << std::ifstream(path, std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+  /// A file with one result, in the middle.
+  std::string sample() {
+    score.open();
+    score.EnterScore(1, "Anna", 40);
+    return read(file);
+  }
+  /// The quote fields of a list up to the first unoccupied row.
+  std::string results(int size) const {
+    std::string text;
+    for (int place = 1; place <= 10 && score.row(size, place).quote != "?"; ++place)
+      text += score.row(size, place).name + score.row(size, place).quote + ' ';
+    return text;
+  }
+};
+
+TEST_F(ScoreTest, FileIsByteForByteAsTold) {
+  EXPECT_EQ(score.open(), Score::Loaded::fresh);
+  const std::string fresh = read(file);
+  ASSERT_EQ(fresh.size(), 1800u);
+  std::string row("\x09\0unbekannt", 11);
+  row.resize(30);
+  row += std::string("\x01\0?", 3);
+  row.resize(60);
+  for (std::size_t i = 0; i < 30; ++i)
+    EXPECT_EQ(fresh.substr(60 * i, 60), row);
+
+  score.EnterScore(2, "A", 30);
+  score.EnterScore(2, "B", 35);
+  EXPECT_EQ(score.EnterScore(2, "Jörg", 47), 3);
+  std::string entry("\x04\0J\xF6rg", 6);
+  entry.resize(30);
+  entry += std::string("\x02\0" "47", 4);
+  entry.resize(60);
+  EXPECT_EQ(read(file).substr(720, 60), entry);
+  EXPECT_EQ(read(file).substr(0, 600), fresh.substr(0, 600)) << "the other lists stay";
+  EXPECT_EQ(read(file).substr(1200), fresh.substr(1200));
+}
+
+TEST_F(ScoreTest, RankingPutsTheNewerOfEqualsAbove) {
+  struct {
+    int bombs, place;
+    const char *list;
+  } const cases[] = {
+      {29, 1, "new29 a30 b35 "}, {30, 1, "new30 a30 b35 "}, {31, 2, "a30 new31 b35 "},
+      {35, 2, "a30 new35 b35 "}, {36, 3, "a30 b35 new36 "}, {1000, 3, "a30 b35 new1000 "},
+      {1001, 0, "a30 b35 "},
+  };
+  for (const auto &[bombs, place, list] : cases) {
+    score.ResetScore();
+    score.EnterScore(1, "b", 35);
+    score.EnterScore(1, "a", 30);
+    EXPECT_EQ(score.EnterScore(1, "new", bombs), place);
+    EXPECT_EQ(results(1), list);
+    EXPECT_EQ(results(2), "");
+  }
+}
+
+TEST_F(ScoreTest, FullListDropsItsLastAndRefusesWhatIsWorse) {
+  score.ResetScore();
+  for (int i = 1; i <= 10; ++i)
+    score.EnterScore(3, "n", 71 + i - 1);
+  const std::string before = read(file);
+  EXPECT_EQ(score.EnterScore(3, "late", 81), 0);
+  EXPECT_EQ(read(file), before);
+  EXPECT_EQ(score.EnterScore(3, "last", 80), 10);
+  EXPECT_EQ(score.row(3, 10), (Score::Row{"last", "80"}));
+  EXPECT_EQ(score.EnterScore(3, "first", 70), 1);
+  EXPECT_EQ(score.row(3, 10), (Score::Row{"n", "79"})) << "the last dropped off";
+}
+
+TEST_F(ScoreTest, EmptyTextsTakeNoResult) {
+  EXPECT_EQ(score.LoadScore(), Score::Loaded::fresh);
+  EXPECT_EQ(fs::file_size(file), 0u) << "a missing file is created empty";
+  EXPECT_EQ(score.row(1, 1), Score::Row());
+  EXPECT_EQ(score.EnterScore(1, "x", 1), 0);
+}
+
+TEST_F(ScoreTest, FilesOfAllLengths) {
+  const std::string complete = sample();
+  using enum Score::Loaded;
+  const std::pair<std::size_t, Score::Loaded> lengths[] = {
+      {0, fresh},   {1, damaged},    {29, damaged},   {600, damaged}, {1770, damaged},
+      {1772, damaged}, {1773, whole}, {1799, whole},
+      {1800, whole}, {5000, whole}};
+  for (const auto &[length, expected] : lengths) {
+    std::string bytes = complete;
+    bytes.resize(length, 'x');
+    write(bytes);
+    EXPECT_EQ(score.LoadScore(), expected) << length;
+    EXPECT_EQ(score.row(1, 1).name, length > 5 ? "Anna" : "") << length;
+    EXPECT_EQ(fs::file_size(file), length) << "reading writes nothing";
+    ASSERT_TRUE(score.SaveScore());
+    EXPECT_EQ(fs::file_size(file), std::max<std::size_t>(length, 1800)) << "nothing is cut off";
+  }
+  fs::resize_file(file, 100'000'000);
+  EXPECT_EQ(score.LoadScore(), whole);
+}
+
+TEST_F(ScoreTest, DamagedFileKeepsItsSoundRowsAndACopy) {
+  score.open();
+  for (const int bombs : {50, 40, 30, 20})
+    score.EnterScore(1, "n", bombs);
+  score.EnterScore(3, "z", 60);
+  std::string bytes = read(file);
+  bytes[60] = 29;                     // the name of place 2: too long
+  bytes.replace(152, 2, "xx");        // the quote of place 3
+  write(bytes);
+
+  EXPECT_EQ(score.open(), Score::Loaded::damaged);
+  EXPECT_EQ(results(1), "n20 n50 ");
+  EXPECT_EQ(score.row(1, 3), (Score::Row{"unbekannt", "?"}));
+  EXPECT_EQ(results(3), "z60 ");
+  EXPECT_EQ(read(file), bytes) << "nothing is written before the next save";
+  EXPECT_EQ(read(folder / "Score.hsc.defekt"), bytes);
+
+  bytes[0] = 99;
+  write(bytes);
+  EXPECT_EQ(score.open(), Score::Loaded::damaged);
+  EXPECT_EQ(read(folder / "Score.hsc.defekt"), bytes);
+  EXPECT_EQ(read(folder / "Score.hsc.defekt.1").at(0), 1) << "the older copy is kept";
+  EXPECT_EQ(score.EnterScore(1, "n", 10), 1);
+  EXPECT_EQ(score.open(), Score::Loaded::whole);
+}
+
+TEST_F(ScoreTest, QuoteFieldsThatAreSound) {
+  const std::string whole = sample();
+  const std::pair<const char *, bool> quotes[] = {{"1", true},      {"32767", true}, {"32768", false},
+                                                  {"0", false},     {"-5", false},   {"", false},
+                                                  {"4 7", false},   {" 47", false},  {"?", true},
+                                                  {"99999999999", false}};
+  for (const auto &[quote, sound] : quotes) {
+    const std::string text = quote;
+    std::string bytes = whole;
+    bytes[30] = static_cast<char>(text.size());
+    bytes.replace(32, text.size(), text);
+    write(bytes);
+    EXPECT_EQ(score.LoadScore(), sound ? Score::Loaded::whole : Score::Loaded::damaged) << quote;
+  }
+}
+
+TEST_F(ScoreTest, NamesFitIn28BytesOfTheirCharacterSet) {
+  score.open();
+  EXPECT_EQ(score.EnterScore(1, "ÄÖÜäöüß€ÄÖÜäöüß€ÄÖÜäöüß€1234", 50), 1) << "28 characters";
+  const std::string before = read(file);
+  EXPECT_EQ(score.EnterScore(1, "12345678901234567890123456789", 40), std::nullopt);
+  EXPECT_EQ(read(file), before);
+  Score other(file);
+  EXPECT_EQ(other.open(), Score::Loaded::whole);
+  EXPECT_EQ(other.row(1, 1).name, "ÄÖÜäöüß€ÄÖÜäöüß€ÄÖÜäöüß€1234");
+  EXPECT_EQ(other.EnterScore(1, "Ж水😀\xFF", 30), 1);
+  EXPECT_EQ(other.row(1, 1).name, "????") << "as the file will give it back";
+}
+
+TEST_F(ScoreTest, WhatIsNoWritableFileFailsAndHarmsNothing) {
+  fs::create_directory(file);
+  EXPECT_EQ(score.open(), Score::Loaded::unreadable);
+  EXPECT_EQ(score.row(2, 7), (Score::Row{"unbekannt", "?"}));
+  EXPECT_EQ(score.EnterScore(1, "x", 20), std::nullopt);
+  EXPECT_FALSE(score.ResetScore());
+  EXPECT_TRUE(fs::is_directory(file));
+  EXPECT_FALSE(fs::exists(folder / "Score.hsc.defekt"));
+
+  Score vanished(folder / "gone" / "Score.hsc");
+  EXPECT_EQ(vanished.open(), Score::Loaded::unreadable);
+  EXPECT_FALSE(vanished.SaveScore());
+
+  Score full("/dev/full"); // no plain file, either
+  EXPECT_FALSE(full.ResetScore());
+}
+
+TEST(Windows1252, EveryByteSurvives) {
+  std::string bytes;
+  for (int i = 0; i < 256; ++i)
+    bytes += static_cast<char>(i);
+  EXPECT_EQ(toWindows1252(fromWindows1252(bytes)), bytes);
+  EXPECT_EQ(fromWindows1252("\x80\xE4\x9F"), "€äŸ");
+  EXPECT_EQ(toWindows1252("a\xC3"), "a?") << "a text that ends in the middle of a character";
+  EXPECT_EQ(toWindows1252("\xE2\x82z"), "??z");
+}
+
+} // namespace

@@ -1,0 +1,86 @@
+// The top ten without a window, by the game's own library.
+
+#include "Score.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <string_view>
+
+namespace {
+
+constexpr const char *kHelp =
+    "scores FILE\n"
+    "    prints the top ten as JSON: {\"1\":[[name,quote],...10 rows],\"2\":...,\"3\":...}\n"
+    "scores FILE --enter SIZE NAME BOMBS\n"
+    "    files a result and prints its place, 1 to 10, or 0\n"
+    "scores FILE --reset\n"
+    "    resets all lists\n"
+    "FILE is treated as the game treats it at its start. Where the game would end with a\n"
+    "message, it goes to stderr and the exit status is 1; for a wrong call it is 2.\n";
+
+constexpr int kFailed = 1;
+constexpr int kWrongCall = 2;
+
+int fail(int status, const char *text) {
+  std::fprintf(stderr, "%s\n", text);
+  return status;
+}
+
+/// A whole number from 1 to `most`; 0 for anything else.
+int number(std::string_view text, int most) {
+  int value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  const bool whole = error == std::errc() && end == text.data() + text.size();
+  return whole && value >= 1 && value <= most ? value : 0;
+}
+
+void print(const Score &score) {
+  QJsonObject lists;
+  for (int size = 1; size <= 3; ++size) {
+    QJsonArray rows;
+    for (int place = 1; place <= Score::kPlaces; ++place) {
+      const Score::Row &row = score.row(size, place);
+      rows.append(QJsonArray{QString::fromStdString(row.name), QString::fromStdString(row.quote)});
+    }
+    lists[QString::number(size)] = rows;
+  }
+  std::puts(QJsonDocument(lists).toJson(QJsonDocument::Compact).constData());
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  const auto is = [&](int i, const char *option) { return std::strcmp(argv[i], option) == 0; };
+  if (argc == 2 && is(1, "--help")) {
+    std::fputs(kHelp, stdout);
+    return 0;
+  }
+  const bool enter = argc == 6 && is(2, "--enter");
+  const bool reset = argc == 3 && is(2, "--reset");
+  const int size = enter ? number(argv[3], 3) : 1;
+  const int bombs = enter ? number(argv[5], std::numeric_limits<std::int16_t>::max()) : 1;
+  if ((argc != 2 && !enter && !reset) || size == 0 || bombs == 0)
+    return fail(kWrongCall, "scores: wrong call, see --help");
+
+  Score score(argv[1]);
+  const Score::Loaded loaded = score.open();
+  if (loaded == Score::Loaded::damaged || loaded == Score::Loaded::unreadable)
+    std::fprintf(stderr, "%s\n", Score::kDamaged);
+  if (reset)
+    return score.ResetScore() ? 0 : fail(kFailed, Score::kResetFailed);
+  if (!enter) {
+    print(score);
+    return 0;
+  }
+  const auto place = score.EnterScore(size, argv[4], bombs);
+  if (!place)
+    return fail(kFailed, Score::kSaveFailed);
+  std::printf("%d\n", *place);
+  return 0;
+}
