@@ -19,9 +19,7 @@ namespace {
 constexpr std::array<Cell, 4> kEdges{{{0, -1}, {1, 0}, {0, 1}, {-1, 0}}};
 constexpr std::array<Cell, 4> kCorners{{{1, -1}, {1, 1}, {-1, 1}, {-1, -1}}};
 
-int boatAt(const Field &field, int X, int Y) {
-  return field.contains(X, Y) ? field(X, Y, 1) : 0;
-}
+int boatAt(const Field &field, int X, int Y) { return field.contains(X, Y) ? field(X, Y, 1) : 0; }
 
 } // namespace
 

@@ -16,8 +16,8 @@ inline constexpr std::array<std::array<int, 2>, kSizes> FeldSize{{{10, 8}, {15, 
 inline constexpr std::array<int, kSizes> kCellSize{24, 18, 15};
 
 /// Number of boats, size 1 first, classes 1 to 6 (lengths 6 down to 1) within a size.
-inline constexpr std::array<std::uint8_t, 18> BootList{0, 0, 1, 2, 2, 3,  //
-                                                       0, 1, 2, 2, 3, 4,  //
+inline constexpr std::array<std::uint8_t, 18> BootList{0, 0, 1, 2, 2, 3, //
+                                                       0, 1, 2, 2, 3, 4, //
                                                        1, 2, 2, 2, 3, 4};
 
 using FleetTable = std::array<std::array<std::uint8_t, kClasses>, kSizes>;

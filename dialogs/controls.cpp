@@ -77,7 +77,7 @@ void BlueButton::paintEvent(QPaintEvent *) {
   // are filled, not drawn, so that they are whole pixels at every density.
   const QColor lit = Qt::white;
   const QColor shaded = kLightBlue.darker(sunken ? 170 : 150);
-  const QColor face = isChecked()                 ? kLightBlue.darker(118)
+  const QColor face = isChecked()               ? kLightBlue.darker(118)
                       : underMouse() && !sunken ? kLightBlue.lighter(108)
                                                 : kLightBlue;
   const QRect plate = rect().adjusted(1, 1, -1, -1);
@@ -114,9 +114,7 @@ BlueButton *makeOption(QWidget *parent, const QString &name, const QRect &place,
   return button;
 }
 
-ImageButton::ImageButton(QWidget *parent) : QAbstractButton(parent) {
-  setFocusPolicy(Qt::NoFocus);
-}
+ImageButton::ImageButton(QWidget *parent) : QAbstractButton(parent) { setFocusPolicy(Qt::NoFocus); }
 
 void ImageButton::setPicture(const QPixmap &picture) {
   picture_ = picture;

@@ -1,9 +1,9 @@
 #include "frmMeldung.h"
 
-
 #include <QKeyEvent>
 
-frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, " " /* an empty title would become the program's name */) {
+frmMeldung::frmMeldung(QWidget *main)
+    : Dialog(main, {354, 141}, " " /* an empty title would become the program's name */) {
   auto *picHintergrund = makePicture(this, {2, 2, 349, 137}, "meldung-hintergrund");
 
   lblMeldung_.setParent(picHintergrund);

@@ -56,9 +56,9 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
   const std::array toolTips{"Schnelles Spiel", "Normales Spiel", "Langes Spiel"};
   for (int i = 0; i < 3; ++i) {
     const QString number = QString::number(i + 1);
-    auto *option = makeOption(this, QString("optSize%1").arg(i), {56 + 56 * i, 88, 49, 49},
-                              "Größe " + number, "groesse-" + number,
-                              toolTips[static_cast<std::size_t>(i)]);
+    auto *option =
+        makeOption(this, QString("optSize%1").arg(i), {56 + 56 * i, 88, 49, 49}, "Größe " + number,
+                   "groesse-" + number, toolTips[static_cast<std::size_t>(i)]);
     option->setChecked(i == Size - 1);
     optSize_[static_cast<std::size_t>(i)] = option;
   }
@@ -104,9 +104,8 @@ bool frmNeu::eventFilter(QObject *watched, QEvent *event) {
   if (key && isStray(*key))
     return true;
   const bool typing =
-      (key && types(*key)) ||
-      (event->type() == QEvent::InputMethod &&
-       !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty());
+      (key && types(*key)) || (event->type() == QEvent::InputMethod &&
+                               !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty());
   if (typing && cboName_.currentText().size() >= kMostTyped)
     return true;
   return Dialog::eventFilter(watched, event);

@@ -103,6 +103,6 @@ private:
   Mode Modus_ = Idle;
   std::array<int, 2> BombenZahl_{};
   QString Bomben_;
-  BoatInWork boat_; ///< `BootID` and `TeilNr`
+  BoatInWork boat_;                  ///< `BootID` and `TeilNr`
   std::unique_ptr<frmSieg> frmSieg_; ///< loaded for the end of the game, not shown before
 };

@@ -1,5 +1,6 @@
-#include "ClockDraw.h"
 #include "Main.h"
+
+#include "ClockDraw.h"
 #include "SdlSound.h"
 
 #include <QApplication>
@@ -13,8 +14,7 @@ constexpr int kSoundDelay = 300; // ms
 
 int main(int argc, char **argv) {
   // Whole steps keep the grid lines sharp.
-  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-      Qt::HighDpiScaleFactorRoundingPolicy::Round);
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
   const QApplication app(argc, argv);
   dressApplication();
 

@@ -45,8 +45,8 @@ void frmHaupt::computerReplies() {
   const ShotCode code = Grid->ComputerShoot();
   ++BombenZahl_[1];
   if (code != ShotCode::sunk) {
-    player_.PlayWav(
-        code == ShotCode::hit ? globals_.sounds.SndTreffer : globals_.sounds.SndWasser, true);
+    player_.PlayWav(code == ShotCode::hit ? globals_.sounds.SndTreffer : globals_.sounds.SndWasser,
+                    true);
     return;
   }
   const int winner = UpdateBoote();

@@ -9,9 +9,9 @@
 /// of a boat that it did not hit. The boats' layer and records can't be reached from here.
 struct KnownSea {
   int Size;
-  const Layer &shots;      ///< layer 2 of the human's field; a cell with `Shot::none` is unknown
-  std::vector<Cell> hits;  ///< hit cells of the boat that is being finished, by point number
-  std::vector<bool> sunk;  ///< whether boat i + 1 is sunk
+  const Layer &shots;     ///< layer 2 of the human's field; a cell with `Shot::none` is unknown
+  std::vector<Cell> hits; ///< hit cells of the boat that is being finished, by point number
+  std::vector<bool> sunk; ///< whether boat i + 1 is sunk
 };
 
 /// The cells to choose among while no boat is being finished.

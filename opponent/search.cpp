@@ -74,13 +74,16 @@ std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
 bool HasFreeNeighbours(const Layer &shots, int X, int Y, int n) {
   if (shots(X, Y) != Shot::none)
     return false;
-  const auto isFree = [&](int x, int y) { return !shots.contains(x, y) || shots(x, y) == Shot::none; };
+  const auto isFree = [&](int x, int y) {
+    return !shots.contains(x, y) || shots(x, y) == Shot::none;
+  };
   return isFree(X, Y - 1) + isFree(X + 1, Y) + isFree(X, Y + 1) + isFree(X - 1, Y) == n;
 }
 
 void SortBlockRanking(std::vector<BlockRank> &Ranking) {
   for (auto i = Ranking.begin(); i != Ranking.end(); ++i)
-    std::iter_swap(i, std::min_element(i, Ranking.end(), [](const BlockRank &a, const BlockRank &b) {
+    std::iter_swap(i,
+                   std::min_element(i, Ranking.end(), [](const BlockRank &a, const BlockRank &b) {
                      return a.count < b.count;
                    }));
 }

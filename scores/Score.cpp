@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <cstdint>
+#include <cstdio>
 #include <limits>
 #include <memory>
 #include <string_view>
@@ -15,10 +15,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kRecord = 30;  // bytes
-constexpr std::size_t kText = 28;    // bytes of it that may be text
-constexpr std::size_t kFile = 1800;  // bytes: 3 sizes, 10 places, 2 records
-constexpr int kAnyResult = 1000;     // the limit of an unoccupied row
+constexpr std::size_t kRecord = 30; // bytes
+constexpr std::size_t kText = 28;   // bytes of it that may be text
+constexpr std::size_t kFile = 1800; // bytes: 3 sizes, 10 places, 2 records
+constexpr int kAnyResult = 1000;    // the limit of an unoccupied row
 constexpr const char *kNobody = "unbekannt";
 constexpr const char *kUnoccupied = "?";
 
@@ -104,8 +104,7 @@ bool Score::SaveScore() const {
   std::string bytes;
   for (const List &places : lists_)
     for (int place = 1; place <= kPlaces; ++place)
-      for (const std::string &text :
-           {places[index(place)].name, places[index(place)].quote}) {
+      for (const std::string &text : {places[index(place)].name, places[index(place)].quote}) {
         const std::string encoded = toWindows1252(text);
         if (encoded.size() > kText)
           return false;
@@ -167,8 +166,8 @@ void Score::reset() {
 void Score::keepSoundRows() {
   for (List &places : lists_) {
     const auto last = places.begin() + kPlaces;
-    const auto end = std::remove_if(places.begin(), last,
-                                    [](const Row &entry) { return entry.bombs() == 0; });
+    const auto end =
+        std::remove_if(places.begin(), last, [](const Row &entry) { return entry.bombs() == 0; });
     std::fill(end, last, Row{kNobody, kUnoccupied});
   }
 }

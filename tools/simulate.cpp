@@ -105,7 +105,8 @@ std::string toJson(const Press &press) {
          std::to_string(static_cast<int>(press.code)) + ']';
 }
 
-template <typename Value> std::string toJson(const std::vector<Value> &values) {
+template <typename Value>
+std::string toJson(const std::vector<Value> &values) {
   std::string text = "[";
   for (const Value &value : values)
     text += (text.size() > 1 ? "," : "") + toJson(value);
@@ -119,7 +120,8 @@ void print(const std::string &line) {
 
 // The game.
 
-template <typename Boat> Fleet cellsOf(const clsGrid &grid, Boat boat) {
+template <typename Boat>
+Fleet cellsOf(const clsGrid &grid, Boat boat) {
   Fleet fleet;
   for (int i = 1; i <= grid.BoatCount(); ++i) {
     std::vector<Cell> &cells = fleet.emplace_back();
@@ -208,8 +210,7 @@ std::string acceptedPresses(const Line &line) {
   int number = 0;
   for (const QJsonValue press : object["presses"].toArray()) {
     const Cell cell = cellOf(press, line.where + QString(": press %1").arg(++number));
-    const bool ok =
-        grid.PFeld().contains(cell.X, cell.Y) && boat.accepts(grid, cell.X, cell.Y);
+    const bool ok = grid.PFeld().contains(cell.X, cell.Y) && boat.accepts(grid, cell.X, cell.Y);
     if (ok && !boat.add(grid, cell.X, cell.Y))
       boat.next(grid);
     accepted += (accepted.empty() ? "" : ",") + std::string(ok ? "true" : "false");
@@ -249,8 +250,11 @@ int wholeNumber(const QString &text, const QString &option, int most) {
 
 void run(const QStringList &arguments) {
   QCommandLineParser parser;
-  parser.addOptions({{"size", "", "S"}, {"games", "", "N", "1"}, {"fleets", "", "FILE"},
-                     {"presses", "", "FILE"}, {"help", ""}});
+  parser.addOptions({{"size", "", "S"},
+                     {"games", "", "N", "1"},
+                     {"fleets", "", "FILE"},
+                     {"presses", "", "FILE"},
+                     {"help", ""}});
   if (!parser.parse(arguments))
     throw Error(parser.errorText());
   if (!parser.positionalArguments().isEmpty())

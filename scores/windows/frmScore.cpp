@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int kBlink = 400;   // ms
-constexpr int kRowTop = 112;  // pixels
+constexpr int kBlink = 400;  // ms
+constexpr int kRowTop = 112; // pixels
 constexpr int kRowStep = 22;
 
 void addLine(QWidget *parent, const QRect &place) {
@@ -45,9 +45,8 @@ frmScore::~frmScore() {
 void frmScore::buildHeadings() {
   QFont font = sansFont(9.75, QFont::Bold);
   font.setUnderline(true);
-  const std::pair<const char *, QRect> headings[] = {{"Platz", {16, 82, 41, 17}},
-                                                     {"Name", {80, 82, 89, 17}},
-                                                     {"Quote", {224, 82, 41, 17}}};
+  const std::pair<const char *, QRect> headings[] = {
+      {"Platz", {16, 82, 41, 17}}, {"Name", {80, 82, 89, 17}}, {"Quote", {224, 82, 41, 17}}};
   for (const auto &[text, place] : headings)
     dress(*new QLabel(text, this), place, {font, Qt::black});
   dress(*new QLabel("Zum Beenden auf das Fenster klicken!", this), {40, 340, 221, 13},
@@ -96,8 +95,8 @@ void frmScore::buildTabs() {
       setPlatz(0);
     });
   }
-  auto *cmdClear = new BlueButton(this, "cmdClear", {275, 355, 21, 21}, "",
-                                  "Löscht die komplette Top-Ten!");
+  auto *cmdClear =
+      new BlueButton(this, "cmdClear", {275, 355, 21, 21}, "", "Löscht die komplette Top-Ten!");
   cmdClear->setAccessibleName("Top Ten löschen");
   cmdClear->setIcon(loadPicture("muell-klein"));
   cmdClear->setIconSize({16, 16});
@@ -144,8 +143,7 @@ void frmScore::setRowColors(int first, int count, const QColor &color) {
 
 void frmScore::blink() {
   const int row = Platz_ - 1;
-  const QColor now =
-      lblNr_[static_cast<std::size_t>(row)]->palette().color(QPalette::WindowText);
+  const QColor now = lblNr_[static_cast<std::size_t>(row)]->palette().color(QPalette::WindowText);
   setRowColors(row, 1, now == Qt::black ? Qt::red : Qt::black);
 }
 

@@ -10,7 +10,7 @@ namespace {
 constexpr QColor kWine(0xAC, 0x0D, 0x4D);
 constexpr int kBannerTop = 16; // pixels
 
-}
+} // namespace
 
 frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
     : Dialog(main, {388, 228}), services_(services) {

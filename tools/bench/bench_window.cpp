@@ -7,7 +7,6 @@
 #include "players.h"
 
 #include <QApplication>
-
 #include <benchmark/benchmark.h>
 
 namespace {
