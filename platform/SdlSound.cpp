@@ -15,6 +15,7 @@ constexpr int kBytesPerSecond = kRate * kChannels * 2;
 constexpr int kBufferFrames = 1024; // 23 ms: so much of a cut sound goes on
 constexpr std::chrono::milliseconds kBufferTime{1000 * kBufferFrames / kRate + 1};
 constexpr std::chrono::seconds kRetry{10};
+constexpr std::chrono::seconds kSilence{30}; // longer than the longest sound, 19 s
 
 QByteArray decode(const Klang &klang) {
   SDL_AudioSpec spec{};
@@ -43,21 +44,32 @@ QByteArray decode(const Klang &klang) {
 
 } // namespace
 
+SdlSound::SdlSound() {
+  silence_.setSingleShot(true);
+  silence_.setInterval(kSilence);
+  silence_.callOnTimeout([this] { close(); });
+}
+
 SdlSound::~SdlSound() {
-  if (device_ != 0)
-    SDL_CloseAudioDevice(device_);
+  close();
   if (SDL_WasInit(SDL_INIT_AUDIO) != 0)
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
+void SdlSound::close() {
+  if (device_ != 0)
+    SDL_CloseAudioDevice(device_);
+  device_ = 0;
+}
+
 bool SdlSound::open() {
+  silence_.start();
   if (device_ != 0 && SDL_GetAudioDeviceStatus(device_) != SDL_AUDIO_STOPPED)
     return true;
   const auto now = std::chrono::steady_clock::now();
   if (failedAt_ && now - *failedAt_ < kRetry)
     return false;
-  if (device_ != 0)
-    SDL_CloseAudioDevice(device_); // the card has gone
+  close(); // the card has gone
 
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   SDL_AudioSpec spec{};
@@ -65,7 +77,6 @@ bool SdlSound::open() {
   spec.format = kFormat;
   spec.channels = kChannels;
   spec.samples = kBufferFrames;
-  device_ = 0;
   if (SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0)
     device_ = SDL_OpenAudioDevice(nullptr, 0, &spec, nullptr, 0);
   if (device_ == 0) {

@@ -3,16 +3,18 @@
 #include "SoundDevice.h"
 
 #include <QHash>
+#include <QTimer>
 
 #include <chrono>
 #include <cstdint>
 #include <optional>
 
-/// Sound through SDL, audio only. The device is opened once, by `open` or the first sound, and
-/// stays open.
+/// Sound through SDL, audio only. The device is opened by `open` or the first sound and stays open
+/// while sounds come; an open one keeps a thread busy, so after half a minute of silence it is
+/// closed.
 class SdlSound : public SoundDevice {
 public:
-  SdlSound() = default;
+  SdlSound();
   SdlSound(const SdlSound &) = delete;
   SdlSound &operator=(const SdlSound &) = delete;
   ~SdlSound() override;
@@ -30,8 +32,10 @@ private:
   std::optional<std::chrono::microseconds> play(const Klang &klang);
   /// The sound in the format of the device; empty if it is no WAV file that SDL knows.
   const QByteArray &decoded(const Klang &klang);
+  void close();
 
   std::uint32_t device_ = 0; ///< SDL's number of the open device, 0 for none
   std::optional<std::chrono::steady_clock::time_point> failedAt_;
   QHash<Klang, QByteArray> decoded_;
+  QTimer silence_; ///< runs from the last sound on
 };
