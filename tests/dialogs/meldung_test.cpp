@@ -4,18 +4,13 @@
 namespace {
 
 TEST(frmMeldung, EachWayOutHasItsAnswer) {
-  struct Case {
-    const char *way;
-    std::function<void(QDialog &)> deed;
-    bool answer;
-  };
   const auto click = [](const char *button) {
     return [=](QDialog &box) { Robot::click(Robot::control(box, button)); };
   };
   const auto press = [](Qt::Key code, const char *text, Qt::KeyboardModifiers modifiers = {}) {
     return [=](QDialog &box) { key(box, code, text, modifiers); };
   };
-  const Case cases[] = {
+  const std::tuple<const char *, std::function<void(QDialog &)>, bool> cases[] = {
       {"Ja", click("cmdOK"), true},
       {"frame after Ja", closeFrame, false}, // the answer before must not stick
       {"Alt+J", press(Qt::Key_J, "j", Qt::AltModifier), true},
@@ -25,22 +20,22 @@ TEST(frmMeldung, EachWayOutHasItsAnswer) {
       {"Space on Ja", press(Qt::Key_Space, " "), true},
   };
   MainWindow main;
-  for (const Case &c : cases) {
-    SCOPED_TRACE(c.way);
-    Robot::onDialog([&](QDialog &box) {
+  for (const auto &[way, deed, answer] : cases) {
+    SCOPED_TRACE(way);
+    Robot::onDialog([&, text = way, &act = deed](QDialog &box) {
       EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
-      EXPECT_EQ(Robot::control<QLabel>(box, "lblMeldung").text(), c.way);
+      EXPECT_EQ(Robot::control<QLabel>(box, "lblMeldung").text(), text);
       for (const char *focus : {"cmdAbbruch", "cmdOK"}) {
         Robot::control(box, focus).setFocus();
         key(box, Qt::Key_Return, "\r");
         key(box, Qt::Key_Enter, "\r", Qt::KeypadModifier);
         EXPECT_TRUE(box.isVisible());
       }
-      c.deed(box);
+      act(box);
       EXPECT_TRUE(closes(box));
       box.hide(); // so that a fault doesn't hang the test
     });
-    EXPECT_EQ(ask(&main, c.way), c.answer);
+    EXPECT_EQ(ask(&main, way), answer);
   }
 }
 

@@ -47,30 +47,23 @@ TEST_F(frmNeuTest, OpensWithTheLastGameReadyToBeOverwritten) {
     dialog->hide();
     dialog->show();
     EXPECT_EQ(dialog->focusWidget(), cboName);
-  }
-}
-
-TEST_F(frmNeuTest, OneSizeIsPressedAtATime) {
-  open(0, "Jörg");
-  for (const int size : {2, 1, 3, 3}) {
-    Robot::click(control(QString("optSize%1").arg(size - 1)));
-    for (int i = 1; i <= 3; ++i)
-      EXPECT_EQ(control(QString("optSize%1").arg(i - 1)).property("checked").toBool(), i == size);
-    EXPECT_EQ(dialog->GetSize(), size);
+    for (const int pressed : {2, 1, 3, 3}) { // one at a time
+      Robot::click(control(QString("optSize%1").arg(pressed - 1)));
+      for (int i = 1; i <= 3; ++i)
+        EXPECT_EQ(control(QString("optSize%1").arg(i - 1)).property("checked"), i == pressed);
+      EXPECT_EQ(dialog->GetSize(), pressed);
+    }
   }
 }
 
 TEST_F(frmNeuTest, AFullNameDiscardsEveryTypingKey) {
   const std::tuple<Qt::Key, QString, Qt::KeyboardModifiers> keys[] = {
-      {Qt::Key_X, "x", {}},
-      {Qt::Key_X, "X", Qt::ShiftModifier},
-      {Qt::Key_Odiaeresis, "ö", {}},
-      {Qt::Key_Space, " ", {}},
+      {Qt::Key_Odiaeresis, "Ö", Qt::ShiftModifier},
       {Qt::Key_5, "5", Qt::KeypadModifier},
-      {Qt::Key_Backspace, "\b", {}},
+      {Qt::Key_Space, " ", {}},
       {Qt::Key_V, "\x16", Qt::ControlModifier},
-      {Qt::Key_X, "\x18", Qt::ControlModifier},
-  };
+      {Qt::Key_Backspace, "\b", {}},
+      {Qt::Key_X, "\x18", Qt::ControlModifier}};
   QApplication::clipboard()->setText("pasted");
   for (const QString &full : {kFull, kFull + " and more"})
     for (const bool selected : {true, false}) {
@@ -93,11 +86,8 @@ TEST_F(frmNeuTest, AFullNameStillTakesDeleteArrowsAndAccessKeys) {
   key(*dialog, Qt::Key_X, "x"); // full again
   key(*dialog, Qt::Key_Y, "y");
   EXPECT_EQ(name(), "xbcdefghijklmn");
-  key(*dialog, Qt::Key_End);
-  key(*dialog, Qt::Key_Left);
-  key(*dialog, Qt::Key_Left);
-  key(*dialog, Qt::Key_Right);
-  key(*dialog, Qt::Key_Delete, "\x7f");
+  for (const auto code : {Qt::Key_End, Qt::Key_Left, Qt::Key_Left, Qt::Key_Right, Qt::Key_Delete})
+    key(*dialog, code);
   EXPECT_EQ(name(), "xbcdefghijklm");
   commit("é");
   EXPECT_EQ(name(), "xbcdefghijklmé");
@@ -121,16 +111,10 @@ TEST_F(frmNeuTest, ALongNameMayBeChosenFromTheList) {
 }
 
 TEST_F(frmNeuTest, EachWayOutStartsItsGameOnceOrNone) {
-  struct Case {
-    int size;
-    QString name;
-    std::function<void()> way;
-    QString started;
-  };
   const auto click = [this](const char *button) {
     return [=, this] { Robot::click(control(button)); };
   };
-  const Case cases[] = {
+  const std::tuple<int, QString, std::function<void()>, QString> cases[] = {
       {1, "Jörg", click("cmdOK"), "1 'Jörg'"},
       {2, "", click("cmdOK"), "2 'Unbekannt'"},
       {3, "   ", click("cmdOK"), "3 '   '"},
@@ -139,39 +123,30 @@ TEST_F(frmNeuTest, EachWayOutStartsItsGameOnceOrNone) {
       {1, "Jörg", [this] { key(*dialog, Qt::Key_A, "a", Qt::AltModifier); }, ""},
       {1, "Jörg", [this] { closeFrame(*dialog); }, ""},
   };
-  for (const Case &c : cases) {
-    open(c.size, c.name);
-    c.way();
+  for (const auto &[size, player, way, expected] : cases) {
+    open(size, player);
+    way();
     EXPECT_TRUE(closes(*dialog));
-    EXPECT_EQ(started, c.started);
+    EXPECT_EQ(started, expected);
   }
 }
 
-TEST_F(frmNeuTest, EnterAndEscapeDoNothing) {
-  for (const QString &text : {QString("Jörg"), kFull}) {
-    open(2, text);
-    for (const char *focus : {"cboName", "optSize0", "cmdOK", "cmdAbbruch"}) {
-      control(focus).setFocus();
-      key(*dialog, Qt::Key_Return, "\r");
-      key(*dialog, Qt::Key_Enter, "\r", Qt::KeypadModifier);
-      key(*dialog, Qt::Key_Escape, "\x1b");
-      EXPECT_TRUE(dialog->isVisible()) << focus;
-      EXPECT_EQ(dialog->GetSize(), 2) << focus;
-      EXPECT_EQ(name(), text) << focus;
-    }
-    EXPECT_EQ(started, "");
-  }
-}
-
-TEST_F(frmNeuTest, TabVisitsEveryControlInOrder) {
+TEST_F(frmNeuTest, EnterAndEscapeDoNothingOnAnyControlOfTheTabOrder) {
   for (const QString &text : {QString("Jörg"), kFull}) {
     open(2, text);
     QStringList visited;
     for (int i = 0; i < 7; ++i) {
       visited << QApplication::focusWidget()->objectName();
+      key(*dialog, Qt::Key_Return, "\r");
+      key(*dialog, Qt::Key_Enter, "\r", Qt::KeypadModifier);
+      key(*dialog, Qt::Key_Escape, "\x1b");
+      EXPECT_TRUE(dialog->isVisible());
+      EXPECT_EQ(dialog->GetSize(), 2);
+      EXPECT_EQ(name(), text);
       key(*dialog, Qt::Key_Tab, "\t");
     }
     EXPECT_EQ(visited.join(' '), "cboName optSize0 optSize1 optSize2 cmdOK cmdAbbruch cboName");
+    EXPECT_EQ(started, "");
   }
 }
 

@@ -17,25 +17,19 @@ struct OneTextStore : SettingsStore {
 };
 
 TEST(Settings, WhatIsNoUsableNumberGivesTheDefault) {
-  struct Case {
-    std::optional<QString> text;
-    int Sound, Help, StdSize;
-  };
-  const Case cases[] = {
+  const std::tuple<std::optional<QString>, int, int, int> cases[] = {
       {std::nullopt, 1, 1, 2}, {"0", 0, 0, 2},   {"1", 1, 1, 1},          {"2", 2, 2, 2},
       {"3", 3, 3, 3},          {"4", 4, 4, 2},   {"255", 255, 255, 2},    {"256", 1, 1, 2},
       {"259", 1, 1, 2},        {"-1", 1, 1, 2},  {"4294967299", 1, 1, 2}, {"abc", 1, 1, 2},
       {"3x", 1, 1, 2},         {"0x3", 1, 1, 2}, {"1.5", 1, 1, 2},        {"", 1, 1, 2},
       {" ", 1, 1, 2},          {" 3", 3, 3, 3}, // a blank beside a number is harmless
   };
-  for (const Case &c : cases) {
-    SCOPED_TRACE(c.text.value_or("absent").toStdString());
+  for (const auto &[text, Sound, Help, StdSize] : cases) {
     OneTextStore store;
-    store.text = c.text;
-    const Settings settings = Settings::read(store);
-    EXPECT_EQ(settings.Sound, c.Sound);
-    EXPECT_EQ(settings.Help, c.Help);
-    EXPECT_EQ(settings.StdSize, c.StdSize);
+    store.text = text;
+    const Settings s = Settings::read(store);
+    EXPECT_EQ(std::tuple(s.Sound, s.Help, s.StdSize), std::tuple(Sound, Help, StdSize))
+        << text.value_or("absent").toStdString();
   }
 }
 

@@ -26,13 +26,4 @@ inline bool closes(QWidget &window) {
 }
 
 /// A close by the frame of the window.
-inline void closeFrame(QWidget &window) {
-  window.windowHandle()->close();
-}
-
-inline void PrintTo(const QString &text, std::ostream *out) {
-  *out << text.toStdString();
-}
-inline void PrintTo(const QRect &r, std::ostream *out) {
-  *out << r.x() << ',' << r.y() << ' ' << r.width() << 'x' << r.height();
-}
+inline void closeFrame(QWidget &window) { window.windowHandle()->close(); }

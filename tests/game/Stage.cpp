@@ -5,19 +5,11 @@
 #include <utility>
 
 void RecordingSound::note(const char *what, const Klang &klang) {
-  static const Sounds sounds = Sounds::load();
-  static const Klang top10 = loadSound("top10");
-  static const std::pair<const Klang *, const char *> names[] = {
-      {&sounds.SndMuell, "Muell"},       {&sounds.SndBoot, "Boot"},
-      {&sounds.SndAlle, "Alle"},         {&sounds.SndStart, "Start"},
-      {&sounds.SndWasser, "Wasser"},     {&sounds.SndDoppelt, "Doppelt"},
-      {&sounds.SndTreffer, "Treffer"},   {&sounds.SndVersenkt, "Versenkt"},
-      {&sounds.SndSieg, "Sieg"},         {&sounds.SndVerloren, "Verloren"},
-      {&top10, "Top10"}};
   std::string name = klang.isEmpty() ? "silence" : "?";
-  for (const auto &[known, text] : names)
-    if (!klang.isEmpty() && *known == klang)
-      name = text;
+  for (const char *known : {"Muell", "Boot", "Alle", "Start", "Wasser", "Doppelt", "Treffer",
+                            "Versenkt", "Sieg", "Verloren", "Top10"})
+    if (loadSound(QString(known).toLower()) == klang)
+      name = known;
   const std::string seen = changes ? changes() : "";
   log.push_back((seen.empty() ? "" : seen + ' ') + what + ' ' + name);
   if (hook)
@@ -46,7 +38,7 @@ std::vector<QString> Stage::counters() {
 std::string Stage::changes() {
   if (!window->grid()) // closed
     return "";
-  const QImage right = Robot::control<PictureBox>(*window, "piccFeld").content();
+  const QImage right = field("piccFeld").content();
   std::string letters;
   if (std::exchange(left_.paints, 0) > 0)
     letters += 'L';

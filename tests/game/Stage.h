@@ -4,19 +4,20 @@
 #include "Robot.h"
 #include "ScriptedDraw.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 #include <functional>
+
+using Log = std::vector<std::string>;
 
 /// Writes down each sound with what was seen to change on the window since the one before:
 /// `L` the left field painted anew, `R` the right field drawn on, `C` a counter.
 class RecordingSound : public SoundDevice {
 public:
-  std::vector<std::string> log;
+  Log log;
   std::function<std::string()> changes; ///< the letters
   std::function<void()> hook;           ///< called in every sound
 
@@ -45,6 +46,7 @@ protected:
   Stage();
 
   QWidget &control(const QString &name) { return Robot::control(*window, name); }
+  PictureBox &field(const char *name) { return Robot::control<PictureBox>(*window, name); }
   std::vector<QString> counters();
   void newGame(int size) { robot->newGame(size, "Jörg"); }
   /// Lets all be painted and forgets what was logged and seen so far.

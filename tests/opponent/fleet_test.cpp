@@ -1,49 +1,37 @@
+#include "BoardTest.h"
 #include "ClockDraw.h"
-#include "GridProbe.h"
-#include "ScriptedDraw.h"
-
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 
 namespace {
 
-struct FleetTest : testing::Test {
-  ScriptedDraw draw;
-  clsGrid grid{draw};
-  GridProbe probe{grid};
-
-  void SetUp() override { grid.ResetFields(); } // size 1, 10 by 8
-};
+using FleetTest = BoardTest;
 
 TEST_F(FleetTest, DirectionsThatAreOpen) {
   struct {
     const char *what;
-    std::vector<std::string> fleet;
+    const char *fleet;
     Cell from;
     std::array<int, 4> found; // for the drawn directions 1 to 4
   } const cases[] = {
-      {"in open water as drawn", {}, {5, 4}, {1, 2, 3, 4}},
-      {"never onto the rim or along it", {}, {2, 4}, {1, 2, 3, 1}},
-      {"from the left rim to the right only", {}, {1, 4}, {2, 2, 2, 2}},
-      {"from the lower rim up only", {}, {5, 8}, {1, 1, 1, 1}},
-      {"from a corner nowhere", {}, {10, 8}, {0, 0, 0, 0}},
-      {"two cells short of the rim is too near", {}, {9, 7}, {1, 4, 4, 4}},
-      {"another boat two ahead closes it", {"..........", "....F....."}, {5, 4},
-       {2, 2, 3, 4}},
-      {"or at a corner of two boxes", {"..........", "..........", ".....F...."}, {5, 4}, {3, 3, 3, 4}},
-      {"not one that is three away", {"....F....."}, {5, 4}, {1, 2, 3, 4}},
-      {"never back into itself", {"..........", "..........", "..........", "..A......."}, {4, 4},
-       {1, 2, 3, 1}},
+      {"in open water as drawn", "", {5, 4}, {1, 2, 3, 4}},
+      {"never onto the rim or along it", "", {2, 4}, {1, 2, 3, 1}},
+      {"from the left rim to the right only", "", {1, 4}, {2, 2, 2, 2}},
+      {"from the lower rim up only", "", {5, 8}, {1, 1, 1, 1}},
+      {"from a corner nowhere", "", {10, 8}, {0, 0, 0, 0}},
+      {"two cells short of the rim is too near", "", {9, 7}, {1, 4, 4, 4}},
+      {"another boat two ahead closes it", "/....F", {5, 4}, {2, 2, 3, 4}},
+      {"or at a corner of two boxes", "//.....F", {5, 4}, {3, 3, 3, 4}},
+      {"not one that is three away", "....F", {5, 4}, {1, 2, 3, 4}},
+      {"never back into itself", "///..A", {4, 4}, {1, 2, 3, 1}},
   };
   for (const auto &c : cases) {
-    SCOPED_TRACE(c.what);
     grid.ResetFields();
     probe.placeComputer(c.fleet);
+    std::array<int, 4> found{};
     for (int drawn = 1; drawn <= 4; ++drawn)
-      EXPECT_EQ(probe.FindDirection(drawn, c.from.X, c.from.Y),
-                c.found[static_cast<std::size_t>(drawn - 1)])
-          << "drawn " << drawn;
+      found[static_cast<std::size_t>(drawn - 1)] = probe.FindDirection(drawn, c.from.X, c.from.Y);
+    EXPECT_EQ(found, c.found) << c.what;
   }
 }
 
@@ -51,38 +39,26 @@ TEST_F(FleetTest, WalkFollowsItsDraws) {
   for (const auto &[value, n] : {std::pair{5, 10}, {4, 8}, {2, 4}, {3, 4}, {4, 4}})
     draw.expect(value, n);
   ASSERT_TRUE(probe.CreateComputerBoat(1));
-  EXPECT_EQ(grid.CBoote(1).cell(1), (Cell{5, 4}));
-  EXPECT_EQ(grid.CBoote(1).cell(2), (Cell{6, 4}));
-  EXPECT_EQ(grid.CBoote(1).cell(3), (Cell{6, 5}));
-  EXPECT_EQ(grid.CBoote(1).cell(4), (Cell{7, 5})) << "4 would touch the first cell, 1 leads back";
+  const Cell way[] = {{5, 4}, {6, 4}, {6, 5}, {7, 5}}; // 4 would touch the first, 1 leads back
+  for (int j = 1; j <= 4; ++j)
+    EXPECT_EQ(grid.CBoote(1).cell(j), way[j - 1]);
 }
 
 TEST_F(FleetTest, FirstCellTouchesNothingButMayStandOnTheRim) {
-  probe.placeComputer({"..........", ".A........"});
-  for (const auto &[value, n] : {std::pair{2, 10}, {2, 8},             // taken: drawn again
-                                 {3, 10}, {3, 8}, {10, 10}, {8, 8}})   // touching; then a corner
-    draw.expect(value, n);
-  int X = 0;
-  int Y = 0;
+  probe.placeComputer("/.A");
+  for (const Cell &drawn : {Cell{2, 2}, {3, 3}, {10, 8}}) { // taken, touching, a corner
+    draw.expect(drawn.X, 10);
+    draw.expect(drawn.Y, 8);
+  }
+  int X = 0, Y = 0;
   ASSERT_TRUE(probe.FindFreeCell(X, Y));
   EXPECT_EQ((Cell{X, Y}), (Cell{10, 8}));
 }
 
-TEST_F(FleetTest, FailedTriesLeaveNoTrace) {
-  // A corner has no way on.
-  draw.expect(1, 10);
-  draw.expect(1, 8);
-  EXPECT_FALSE(probe.CreateComputerBoat(1));
-  EXPECT_EQ(grid.toText().find('A'), std::string::npos);
-  EXPECT_FALSE(grid.CBoote(1).hasPoints());
-}
-
-TEST_F(FleetTest, EndlessDeadEndIsGivenUp) {
+TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   // Boat 1 begins at (1, 4), whose only way on is (2, 4), and from there is none but back.
-  for (int Y = 1; Y <= 8; ++Y)
-    probe.CFeld()(4, Y, 1) = 7;
-  for (int X = 1; X <= 3; ++X)
-    probe.CFeld()(X, 2, 1) = probe.CFeld()(X, 6, 1) = 7;
+  probe.forEach("...G/GGGG/...G/...G/...G/GGGG/...G/...G",
+                [&](int X, int Y, char cell) { probe.CFeld()(X, Y, 1) = cell == 'G' ? 7 : 0; });
   draw.expect(1, 10);
   draw.expect(4, 8);
   EXPECT_FALSE(probe.CreateComputerBoat(1));
@@ -104,8 +80,7 @@ TEST_F(FleetTest, FullSeaFailsInBoundedTime) {
 TEST(ComputerFleet, KeepsItsProperties) {
   ClockDraw draw;
   clsGrid grid(draw);
-  bool rimSeen = false;
-  bool cornerSeen = false;
+  bool rimSeen = false, cornerSeen = false;
   for (int size = 1; size <= 3; ++size) {
     grid.setSize(size);
     for (int fleet = 0; fleet < 1500; ++fleet) {
@@ -120,8 +95,7 @@ TEST(ComputerFleet, KeepsItsProperties) {
           cornerSeen = cornerSeen || (X == 1 && Y == 1);
           ASSERT_TRUE(j == 1 || !onRim) << grid.toText();
           for (int k = 1; k < j; ++k) {
-            const int dx = std::abs(X - boat.X(k));
-            const int dy = std::abs(Y - boat.Y(k));
+            const int dx = std::abs(X - boat.X(k)), dy = std::abs(Y - boat.Y(k));
             ASSERT_EQ(dx + dy == 1, k == j - 1) << grid.toText();
             // It touches itself at the corner of a turn only.
             ASSERT_TRUE(k >= j - 2 || dx > 1 || dy > 1) << grid.toText();
@@ -130,8 +104,7 @@ TEST(ComputerFleet, KeepsItsProperties) {
       }
     }
   }
-  EXPECT_TRUE(rimSeen);
-  EXPECT_TRUE(cornerSeen);
+  EXPECT_TRUE(rimSeen && cornerSeen);
 }
 
 } // namespace

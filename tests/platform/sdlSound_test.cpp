@@ -8,9 +8,7 @@
 
 namespace {
 
-constexpr qint16 kFirst = 0x1234;
-constexpr qint16 kSecond = 0x2345;
-constexpr qint16 kThird = 0x3456;
+constexpr qint16 kFirst = 0x1234, kSecond = 0x2345, kThird = 0x3456;
 
 /// A WAV file in the rate of the device, 16 bits mono, with the same sample throughout.
 Klang tone(int ms, qint16 sample) {

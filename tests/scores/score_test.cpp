@@ -12,9 +12,9 @@ namespace fs = std::filesystem;
 namespace {
 
 struct ScoreTest : testing::Test {
-  fs::path folder = fs::temp_directory_path() /
-                    ("korvel-score-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                     testing::UnitTest::GetInstance()->current_test_info()->name());
+  const testing::UnitTest &unit = *testing::UnitTest::GetInstance();
+  fs::path folder = fs::temp_directory_path() / ("korvel-" + std::to_string(unit.random_seed()) +
+                                                 unit.current_test_info()->name());
   fs::path file = folder / "Score.hsc";
   Score score{file};
 
@@ -32,7 +32,13 @@ struct ScoreTest : testing::Test {
     bytes << std::ifstream(path, std::ios::binary).rdbuf();
     return bytes.str();
   }
-  /// A file with one result, in the middle.
+  /// A field of the file.
+  static std::string cell(const std::string &text) {
+    std::string bytes = static_cast<char>(text.size()) + std::string(1, 0) + text;
+    bytes.resize(30);
+    return bytes;
+  }
+  /// A file with one result.
   std::string sample() {
     score.open();
     score.EnterScore(1, "Anna", 40);
@@ -51,21 +57,13 @@ TEST_F(ScoreTest, FileIsByteForByteAsTold) {
   EXPECT_EQ(score.open(), Score::Loaded::fresh);
   const std::string fresh = read(file);
   ASSERT_EQ(fresh.size(), 1800u);
-  std::string row("\x09\0unbekannt", 11);
-  row.resize(30);
-  row += std::string("\x01\0?", 3);
-  row.resize(60);
   for (std::size_t i = 0; i < 30; ++i)
-    EXPECT_EQ(fresh.substr(60 * i, 60), row);
+    EXPECT_EQ(fresh.substr(60 * i, 60), cell("unbekannt") + cell("?"));
 
   score.EnterScore(2, "A", 30);
   score.EnterScore(2, "B", 35);
   EXPECT_EQ(score.EnterScore(2, "Jörg", 47), 3);
-  std::string entry("\x04\0J\xF6rg", 6);
-  entry.resize(30);
-  entry += std::string("\x02\0" "47", 4);
-  entry.resize(60);
-  EXPECT_EQ(read(file).substr(720, 60), entry);
+  EXPECT_EQ(read(file).substr(720, 60), cell("J\xF6rg") + cell("47"));
   EXPECT_EQ(read(file).substr(0, 600), fresh.substr(0, 600)) << "the other lists stay";
   EXPECT_EQ(read(file).substr(1200), fresh.substr(1200));
 }
@@ -102,20 +100,12 @@ TEST_F(ScoreTest, FullListDropsItsLastAndRefusesWhatIsWorse) {
   EXPECT_EQ(score.row(3, 10), (Score::Row{"n", "79"})) << "the last dropped off";
 }
 
-TEST_F(ScoreTest, EmptyTextsTakeNoResult) {
-  EXPECT_EQ(score.LoadScore(), Score::Loaded::fresh);
-  EXPECT_EQ(fs::file_size(file), 0u) << "a missing file is created empty";
-  EXPECT_EQ(score.row(1, 1), Score::Row());
-  EXPECT_EQ(score.EnterScore(1, "x", 1), 0);
-}
-
 TEST_F(ScoreTest, FilesOfAllLengths) {
   const std::string complete = sample();
   using enum Score::Loaded;
   const std::pair<std::size_t, Score::Loaded> lengths[] = {
-      {0, fresh},   {1, damaged},    {29, damaged},   {600, damaged}, {1770, damaged},
-      {1772, damaged}, {1773, whole}, {1799, whole},
-      {1800, whole}, {5000, whole}};
+      {0, fresh},      {1, damaged},  {29, damaged}, {600, damaged}, {1770, damaged},
+      {1772, damaged}, {1773, whole}, {1799, whole}, {1800, whole},  {5000, whole}};
   for (const auto &[length, expected] : lengths) {
     std::string bytes = complete;
     bytes.resize(length, 'x');
@@ -136,8 +126,8 @@ TEST_F(ScoreTest, DamagedFileKeepsItsSoundRowsAndACopy) {
     score.EnterScore(1, "n", bombs);
   score.EnterScore(3, "z", 60);
   std::string bytes = read(file);
-  bytes[60] = 29;                     // the name of place 2: too long
-  bytes.replace(152, 2, "xx");        // the quote of place 3
+  bytes[60] = 29;              // the name of place 2: too long
+  bytes.replace(152, 2, "xx"); // the quote of place 3
   write(bytes);
 
   EXPECT_EQ(score.open(), Score::Loaded::damaged);
@@ -158,16 +148,11 @@ TEST_F(ScoreTest, DamagedFileKeepsItsSoundRowsAndACopy) {
 
 TEST_F(ScoreTest, QuoteFieldsThatAreSound) {
   const std::string whole = sample();
-  const std::pair<const char *, bool> quotes[] = {{"1", true},      {"32767", true}, {"32768", false},
-                                                  {"0", false},     {"-5", false},   {"", false},
-                                                  {"4 7", false},   {" 47", false},  {"?", true},
-                                                  {"99999999999", false}};
+  const std::pair<const char *, bool> quotes[] = {
+      {"1", true}, {"32767", true}, {"32768", false}, {"0", false}, {"-5", false},
+      {"", false}, {"4 7", false},  {" 47", false},   {"?", true},  {"99999999999", false}};
   for (const auto &[quote, sound] : quotes) {
-    const std::string text = quote;
-    std::string bytes = whole;
-    bytes[30] = static_cast<char>(text.size());
-    bytes.replace(32, text.size(), text);
-    write(bytes);
+    write(std::string(whole).replace(30, 30, cell(quote)));
     EXPECT_EQ(score.LoadScore(), sound ? Score::Loaded::whole : Score::Loaded::damaged) << quote;
   }
 }

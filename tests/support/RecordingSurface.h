@@ -5,11 +5,18 @@
 #include <string>
 #include <vector>
 
+using Calls = std::vector<std::string>;
+
 /// Writes down every call, in words, into a list that several surfaces may share.
 class RecordingSurface : public Surface {
 public:
-  RecordingSurface(std::string name, std::vector<std::string> &calls)
-      : name_(std::move(name)), calls_(calls) {}
+  RecordingSurface(std::string name, Calls &calls) : name_(std::move(name)), calls_(calls) {}
+
+  static std::string call(std::string words, const std::vector<int> &numbers) {
+    for (const int number : numbers)
+      words += ' ' + std::to_string(number);
+    return words;
+  }
 
   void setWidth(int width) override { note("width", {width_ = width}); }
   void setHeight(int height) override { note("height", {height_ = height}); }
@@ -29,14 +36,10 @@ public:
 
 private:
   void note(const std::string &what, const std::vector<int> &numbers) {
-    std::string call = name_ + ' ' + what;
-    for (const int number : numbers)
-      call += ' ' + std::to_string(number);
-    calls_.push_back(call);
+    calls_.push_back(call(name_ + ' ' + what, numbers));
   }
 
   std::string name_;
-  std::vector<std::string> &calls_;
-  int width_ = 0;
-  int height_ = 0;
+  Calls &calls_;
+  int width_ = 0, height_ = 0;
 };
