@@ -127,16 +127,16 @@ Dialog::Dialog(QWidget *main, QSize inner, const QString &title)
     : QDialog(main, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                         Qt::WindowCloseButtonHint) {
   setWindowTitle(title);
-  fixPlace(inner);
+  fixPlace(inner, main->size()); // both have the same frame, which counts for nothing
 }
 
 Dialog::Dialog(QWidget *main, QSize inner) : QDialog(main, Qt::Dialog | Qt::FramelessWindowHint) {
-  fixPlace(inner);
+  fixPlace(inner, main->frameGeometry().size());
 }
 
-void Dialog::fixPlace(QSize inner) {
+void Dialog::fixPlace(QSize inner, QSize mainSize) {
   setFixedSize(inner);
-  const QSize spare = parentWidget()->size() - inner;
+  const QSize spare = mainSize - inner;
   move(parentWidget()->frameGeometry().topLeft() + QPoint(spare.width() / 2, spare.height() / 2));
 }
 

@@ -81,5 +81,5 @@ protected:
   void keyPressEvent(QKeyEvent *event) override;
 
 private:
-  void fixPlace(QSize inner);
+  void fixPlace(QSize inner, QSize mainSize);
 };

@@ -30,8 +30,7 @@ std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const
   globals.sprites = Sprites::load();
   globals.settings = Settings::read(services.store);
   globals.score = Score(std::filesystem::path(globals.ScorePath.toStdU16String()));
-  const Score::Loaded loaded = globals.score.open();
-  if (loaded == Score::Loaded::damaged || loaded == Score::Loaded::unreadable)
+  if (Score::isBroken(globals.score.loadAtStart()))
     services.messages.warning("Achtung!", Score::kDamaged);
 
   auto window = std::make_unique<frmHaupt>(globals, services);

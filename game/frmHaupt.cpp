@@ -175,10 +175,12 @@ void frmHaupt::runCommand(const QString &key) {
 }
 
 ScoreServices frmHaupt::scoreServices() {
-  return {globals_.score, *Grid, player_, [this](const QString &text) {
-            services_.messages.warning("Korvel", text);
-            close();
-          }};
+  return {globals_.score, *Grid, player_, [this](const QString &text) { endWithMessage(text); }};
+}
+
+void frmHaupt::endWithMessage(const QString &text) {
+  services_.messages.warning("Korvel", text);
+  close();
 }
 
 void frmHaupt::DoTop10() { frmScore(this, scoreServices()).showModally(); }

@@ -15,6 +15,8 @@
 
 #include <array>
 #include <memory>
+#include <optional>
+#include <string>
 
 /// A label of the window that the board may write.
 class NameLabel : public QLabel, public Label {
@@ -61,6 +63,7 @@ private:
   void DoTop10();
   void DoEnde();
   ScoreServices scoreServices();
+  void endWithMessage(const QString &text);
   bool closed() const { return !Grid; }
 
   // modes.cpp: modes, new game, press
@@ -84,6 +87,7 @@ private:
   // end.cpp: the end of a game
   void humanWins();
   void computerWins();
+  std::optional<int> fileResult(const std::string &name, int side);
   void celebrate(int Bild, int Platz, const QString &sentence, const Klang &klang);
 
   Globals &globals_;

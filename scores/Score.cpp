@@ -6,6 +6,8 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <string_view>
@@ -38,10 +40,24 @@ File openPlain(const fs::path &path, const char *mode) {
   return file;
 }
 
-void createIfMissing(const fs::path &path) {
+bool isMissing(const fs::path &path) {
   std::error_code error;
-  if (!fs::exists(fs::symlink_status(path, error)))
+  return fs::status(path, error).type() == fs::file_type::not_found;
+}
+
+void createIfMissing(const fs::path &path) {
+  if (isMissing(path))
     File(std::fopen(path.string().c_str(), "ab"));
+}
+
+bool sameContent(const fs::path &a, const fs::path &b) {
+  std::error_code error;
+  if (fs::file_size(a, error) != fs::file_size(b, error) || error)
+    return false;
+  std::ifstream left(a, std::ios::binary);
+  std::ifstream right(b, std::ios::binary);
+  using Bytes = std::istreambuf_iterator<char>;
+  return std::equal(Bytes(left), Bytes(), Bytes(right), Bytes());
 }
 
 /// Takes the next record off the file's bytes; nothing if it is impossible or not all there.
@@ -83,21 +99,23 @@ Score::Loaded Score::LoadScore() {
   const bool readable = file && !std::ferror(file.get());
 
   std::string_view bytes = content;
-  bool sound = true;
+  bool intact = true;
   for (List &places : lists_)
     for (int place = 1; place <= kPlaces; ++place) {
       Row &entry = places[index(place)];
       const auto name = takeRecord(bytes);
       const auto quote = takeRecord(bytes);
-      // Without its name a row is not sound, so it loses the quote as well.
+      // Without its name a row is not intact, so it loses the quote as well.
       entry = {name.value_or(""), name ? quote.value_or("") : ""};
-      sound = sound && (entry.quote == kUnoccupied || entry.bombs() > 0);
+      intact = intact && (entry.quote == kUnoccupied || entry.bombs() > 0);
     }
+  if (isMissing(file_)) // and could not be created
+    return Loaded::fresh;
   if (!readable)
     return Loaded::unreadable;
   if (content.empty())
     return Loaded::fresh;
-  return sound ? Loaded::whole : Loaded::damaged;
+  return intact ? Loaded::whole : Loaded::damaged;
 }
 
 bool Score::SaveScore() const {
@@ -139,7 +157,7 @@ std::optional<int> Score::EnterScore(int size, const std::string &name, int bomb
   return static_cast<int>(place - places.begin()) + 1;
 }
 
-Score::Loaded Score::open() {
+Score::Loaded Score::loadAtStart() {
   const Loaded loaded = LoadScore();
   switch (loaded) {
   case Loaded::whole:
@@ -149,7 +167,7 @@ Score::Loaded Score::open() {
     break;
   case Loaded::damaged:
     copyDamagedFile();
-    keepSoundRows();
+    keepIntactRows();
     break;
   case Loaded::unreadable:
     reset();
@@ -163,7 +181,7 @@ void Score::reset() {
     std::fill_n(places.begin(), kPlaces, Row{kNobody, kUnoccupied});
 }
 
-void Score::keepSoundRows() {
+void Score::keepIntactRows() {
   for (List &places : lists_) {
     const auto last = places.begin() + kPlaces;
     const auto end =
@@ -172,11 +190,14 @@ void Score::keepSoundRows() {
   }
 }
 
-// The newest copy has the plain name; an older one gets the first number that is free.
+// The newest copy has the plain name; an older one gets the first number that is free. A folder
+// that cannot be written leaves the damaged file alone as it is, until the next save.
 void Score::copyDamagedFile() const {
   fs::path copy = file_;
   copy += ".defekt";
-  std::error_code error; // a folder that cannot be written: the damaged file itself stays
+  std::error_code error;
+  if (sameContent(file_, copy)) // from an earlier start
+    return;
   if (fs::exists(copy, error)) {
     fs::path older;
     int number = 0;

@@ -27,7 +27,7 @@ public:
     int bombs() const;
   };
 
-  /// Why a routine could not do its work with the file; the texts that the user is told.
+  /// What the user is told of the file. Behind the first two the program ends.
   static constexpr const char *kSaveFailed =
       "Es trat ein Fehler beim Speichern der Highscore-Daten auf!\r\nDas Programm wird beendet!";
   static constexpr const char *kResetFailed =
@@ -43,7 +43,7 @@ public:
 
   enum class Loaded {
     whole,
-    fresh,      ///< the file was missing or empty: all texts are empty
+    fresh,      ///< the file was missing, perhaps for good, or empty: all texts are empty
     damaged,    ///< a length or a quote field is impossible, or the file ends early
     unreadable, ///< it cannot be read: all texts are empty
   };
@@ -63,10 +63,13 @@ public:
   std::optional<int> EnterScore(int size, const std::string &name, int bombs);
 
   /// Start-up: loads, and makes the best of what it finds. A first start writes the reset state,
-  /// if it can. Of a damaged file, copied to `Score.hsc.defekt` beforehand, the sound rows stay;
-  /// an unreadable one leaves the reset state. Both are told by the result, to be shown to the
-  /// user, and nothing is written before the next save.
-  Loaded open();
+  /// if it can. Of a damaged file, copied to `Score.hsc.defekt` beforehand, the intact rows stay;
+  /// an unreadable one leaves the reset state; nothing is written before the next save.
+  Loaded loadAtStart();
+  /// Whether the user is to be warned, with `kDamaged`.
+  static bool isBroken(Loaded loaded) {
+    return loaded == Loaded::damaged || loaded == Loaded::unreadable;
+  }
 
 private:
   /// The ten places and a scratch row, which takes what drops off the list.
@@ -76,7 +79,7 @@ private:
   const List &list(int size) const { return lists_[index(size)]; }
 
   void reset();
-  void keepSoundRows();
+  void keepIntactRows();
   void copyDamagedFile() const;
 
   std::filesystem::path file_;

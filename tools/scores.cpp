@@ -65,12 +65,12 @@ int main(int argc, char **argv) {
   const bool reset = argc == 3 && is(2, "--reset");
   const int size = enter ? number(argv[3], 3) : 1;
   const int bombs = enter ? number(argv[5], std::numeric_limits<std::int16_t>::max()) : 1;
-  if ((argc != 2 && !enter && !reset) || size == 0 || bombs == 0)
+  const bool isFile = argc > 1 && std::strncmp(argv[1], "--", 2) != 0;
+  if (!isFile || (argc != 2 && !enter && !reset) || size == 0 || bombs == 0)
     return fail(kWrongCall, "scores: wrong call, see --help");
 
   Score score(argv[1]);
-  const Score::Loaded loaded = score.open();
-  if (loaded == Score::Loaded::damaged || loaded == Score::Loaded::unreadable)
+  if (Score::isBroken(score.loadAtStart()))
     std::fprintf(stderr, "%s\n", Score::kDamaged);
   if (reset)
     return score.ResetScore() ? 0 : fail(kFailed, Score::kResetFailed);

@@ -75,7 +75,7 @@ void frmScore::buildRows() {
       labels[row]->setObjectName(QString(name).arg(row));
       dress(*labels[row], first.translated(0, kRowStep * static_cast<int>(row)),
             {sansFont(12, QFont::Bold), Qt::black});
-      labels[row]->setAlignment(alignment | Qt::AlignVCenter);
+      labels[row]->setAlignment(alignment | Qt::AlignTop);
     }
   for (std::size_t row = 0; row < lblNr_.size(); ++row)
     lblNr_[row]->setText(QString("%1.").arg(row + 1));
@@ -89,7 +89,10 @@ void frmScore::buildTabs() {
                                "Highscoretabelle entsprechend Spielebene anzeigen.");
     tab->setCheckable(true);
     tab->setAutoExclusive(true);
-    tab->setChecked(i == services_.Grid.Size() - 1);
+    if (i == services_.Grid.Size() - 1) {
+      tab->setChecked(true);
+      tab->setFocus();
+    }
     connect(tab, &QPushButton::clicked, this, [this, i] {
       ShowTable(i + 1);
       setPlatz(0);
@@ -148,7 +151,6 @@ void frmScore::blink() {
 }
 
 void frmScore::showModally() {
-  // Hiding the window for the question of `clearLists` ends `exec`.
   do {
     comesAgain_ = false;
     exec();
@@ -157,7 +159,7 @@ void frmScore::showModally() {
 }
 
 void frmScore::clearLists() {
-  hide();
+  hide(); // ends `exec`, as soon as this handler has returned
   const bool clear = ask(parentWidget(), "\r\nSoll die Top-Ten wirklich gelöscht werden?");
   if (!parentWidget()->isVisible()) // the program ends
     return;

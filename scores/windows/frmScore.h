@@ -10,7 +10,8 @@
 #include <array>
 #include <functional>
 
-/// What the windows of the top ten work with. All of it must outlive them.
+/// What the windows of the top ten work with. All of it must outlive them, but for the board, which
+/// is asked only when a top ten is made.
 struct ScoreServices {
   Score &score;
   const clsGrid &Grid; ///< its size decides which list is shown first
@@ -61,5 +62,5 @@ private:
   std::array<QLabel *, kPlaces> lblNr_;
   std::array<QLabel *, kPlaces> lblName_;
   std::array<QLabel *, kPlaces> lblQuote_;
-  QTimer timBlinker_;
+  QTimer timBlinker_; ///< every 400 ms
 };

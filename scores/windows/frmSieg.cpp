@@ -23,6 +23,7 @@ frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
 
   const QFont small = sansFont(9.75, QFont::Bold);
   dress(lblText_, {8, 64, 369, 49}, {.font = small, .text = Qt::white, .wrapped = true});
+  lblText_.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   dress(lblBomben_, {4, 112, 373, 25}, {sansFont(15.75, QFont::Bold), kWine});
   dress(*new QLabel("Möchtest Du die Highscore-Tabelle ansehen?", &picHinten_), {8, 160, 369, 17},
         {small, Qt::white});

@@ -4,7 +4,7 @@
 #include "frmScore.h"
 
 /// The end of a game: banner, sentence, bomb count, and the question whether the top ten is to be
-/// shown. It has no frame: only its buttons, and Escape as Nein, close it.
+/// shown. It has no frame: its buttons close it, and Escape as Nein.
 class frmSieg : public Dialog {
   Q_OBJECT
 

@@ -1,6 +1,8 @@
 #include "BoardTest.h"
 #include "BoatInWork.h"
 
+#include <numeric>
+
 namespace {
 
 using PlacementTest = BoardTest;
@@ -89,6 +91,20 @@ TEST_F(PlacementTest, BrokenBoardsAreFound) {
     ASSERT_EQ(grid.brokenInvariant(), std::nullopt);
     damage(probe);
     EXPECT_TRUE(grid.brokenInvariant()) << what;
+  }
+}
+
+TEST_F(PlacementTest, FleetsOfTheSizes) {
+  const std::vector<int> lengths[] = {{4, 3, 3, 2, 2, 1, 1, 1},
+                                      {5, 4, 4, 3, 3, 2, 2, 2, 1, 1, 1, 1},
+                                      {6, 5, 5, 4, 4, 3, 3, 2, 2, 2, 1, 1, 1, 1}};
+  for (int size = 1; size <= 3; ++size) {
+    start(size);
+    std::vector<int> found;
+    for (int i = 1; i <= grid.BoatCount(); ++i)
+      found.push_back(grid.CBoote(i).length());
+    EXPECT_EQ(found, lengths[size - 1]);
+    EXPECT_EQ(clsGrid::FleetCells(size), std::accumulate(found.begin(), found.end(), 0));
   }
 }
 

@@ -40,7 +40,7 @@ struct ScoreTest : testing::Test {
   }
   /// A file with one result.
   std::string sample() {
-    score.open();
+    score.loadAtStart();
     score.EnterScore(1, "Anna", 40);
     return read(file);
   }
@@ -53,8 +53,8 @@ struct ScoreTest : testing::Test {
   }
 };
 
-TEST_F(ScoreTest, FileIsByteForByteAsTold) {
-  EXPECT_EQ(score.open(), Score::Loaded::fresh);
+TEST_F(ScoreTest, LayoutToTheByte) {
+  EXPECT_EQ(score.loadAtStart(), Score::Loaded::fresh);
   const std::string fresh = read(file);
   ASSERT_EQ(fresh.size(), 1800u);
   for (std::size_t i = 0; i < 30; ++i)
@@ -121,7 +121,7 @@ TEST_F(ScoreTest, FilesOfAllLengths) {
 }
 
 TEST_F(ScoreTest, DamagedFileKeepsItsSoundRowsAndACopy) {
-  score.open();
+  score.loadAtStart();
   for (const int bombs : {50, 40, 30, 20})
     score.EnterScore(1, "n", bombs);
   score.EnterScore(3, "z", 60);
@@ -130,20 +130,22 @@ TEST_F(ScoreTest, DamagedFileKeepsItsSoundRowsAndACopy) {
   bytes.replace(152, 2, "xx"); // the quote of place 3
   write(bytes);
 
-  EXPECT_EQ(score.open(), Score::Loaded::damaged);
+  EXPECT_EQ(score.loadAtStart(), Score::Loaded::damaged);
   EXPECT_EQ(results(1), "n20 n50 ");
   EXPECT_EQ(score.row(1, 3), (Score::Row{"unbekannt", "?"}));
   EXPECT_EQ(results(3), "z60 ");
   EXPECT_EQ(read(file), bytes) << "nothing is written before the next save";
   EXPECT_EQ(read(folder / "Score.hsc.defekt"), bytes);
+  EXPECT_EQ(score.loadAtStart(), Score::Loaded::damaged);
+  EXPECT_FALSE(fs::exists(folder / "Score.hsc.defekt.1")) << "copied once only";
 
   bytes[0] = 99;
   write(bytes);
-  EXPECT_EQ(score.open(), Score::Loaded::damaged);
+  EXPECT_EQ(score.loadAtStart(), Score::Loaded::damaged);
   EXPECT_EQ(read(folder / "Score.hsc.defekt"), bytes);
   EXPECT_EQ(read(folder / "Score.hsc.defekt.1").at(0), 1) << "the older copy is kept";
   EXPECT_EQ(score.EnterScore(1, "n", 10), 1);
-  EXPECT_EQ(score.open(), Score::Loaded::whole);
+  EXPECT_EQ(score.loadAtStart(), Score::Loaded::whole);
 }
 
 TEST_F(ScoreTest, QuoteFieldsThatAreSound) {
@@ -158,13 +160,13 @@ TEST_F(ScoreTest, QuoteFieldsThatAreSound) {
 }
 
 TEST_F(ScoreTest, NamesFitIn28BytesOfTheirCharacterSet) {
-  score.open();
+  score.loadAtStart();
   EXPECT_EQ(score.EnterScore(1, "ÄÖÜäöüß€ÄÖÜäöüß€ÄÖÜäöüß€1234", 50), 1) << "28 characters";
   const std::string before = read(file);
   EXPECT_EQ(score.EnterScore(1, "12345678901234567890123456789", 40), std::nullopt);
   EXPECT_EQ(read(file), before);
   Score other(file);
-  EXPECT_EQ(other.open(), Score::Loaded::whole);
+  EXPECT_EQ(other.loadAtStart(), Score::Loaded::whole);
   EXPECT_EQ(other.row(1, 1).name, "ÄÖÜäöüß€ÄÖÜäöüß€ÄÖÜäöüß€1234");
   EXPECT_EQ(other.EnterScore(1, "Ж水😀\xFF", 30), 1);
   EXPECT_EQ(other.row(1, 1).name, "????") << "as the file will give it back";
@@ -172,7 +174,7 @@ TEST_F(ScoreTest, NamesFitIn28BytesOfTheirCharacterSet) {
 
 TEST_F(ScoreTest, WhatIsNoWritableFileFailsAndHarmsNothing) {
   fs::create_directory(file);
-  EXPECT_EQ(score.open(), Score::Loaded::unreadable);
+  EXPECT_EQ(score.loadAtStart(), Score::Loaded::unreadable);
   EXPECT_EQ(score.row(2, 7), (Score::Row{"unbekannt", "?"}));
   EXPECT_EQ(score.EnterScore(1, "x", 20), std::nullopt);
   EXPECT_FALSE(score.ResetScore());
@@ -180,7 +182,8 @@ TEST_F(ScoreTest, WhatIsNoWritableFileFailsAndHarmsNothing) {
   EXPECT_FALSE(fs::exists(folder / "Score.hsc.defekt"));
 
   Score vanished(folder / "gone" / "Score.hsc");
-  EXPECT_EQ(vanished.open(), Score::Loaded::unreadable);
+  EXPECT_EQ(vanished.loadAtStart(), Score::Loaded::fresh) << "a first start says nothing";
+  EXPECT_EQ(vanished.row(1, 1), (Score::Row{"unbekannt", "?"}));
   EXPECT_FALSE(vanished.SaveScore());
 
   Score full("/dev/full"); // no plain file, either
