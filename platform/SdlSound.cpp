@@ -18,16 +18,16 @@ constexpr std::chrono::seconds kRetry{10};
 constexpr std::chrono::seconds kSilence{30}; // longer than the longest sound, 19 s
 
 QByteArray decode(const Klang &klang) {
-  SDL_AudioSpec spec{};
+  SDL_AudioSpec audio{};
   Uint8 *data = nullptr;
   Uint32 length = 0;
   SDL_RWops *file = SDL_RWFromConstMem(klang.constData(), static_cast<int>(klang.size()));
-  if (!SDL_LoadWAV_RW(file, 1, &spec, &data, &length))
+  if (!SDL_LoadWAV_RW(file, 1, &audio, &data, &length))
     return {};
   const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> wav(data, &SDL_FreeWAV);
 
   SDL_AudioCVT conversion;
-  if (SDL_BuildAudioCVT(&conversion, spec.format, spec.channels, spec.freq, kFormat, kChannels,
+  if (SDL_BuildAudioCVT(&conversion, audio.format, audio.channels, audio.freq, kFormat, kChannels,
                         kRate) < 0)
     return {};
   QByteArray pcm(static_cast<qsizetype>(length) * conversion.len_mult, Qt::Uninitialized);
@@ -72,13 +72,13 @@ bool SdlSound::open() {
   close(); // the card has gone
 
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-  SDL_AudioSpec spec{};
-  spec.freq = kRate;
-  spec.format = kFormat;
-  spec.channels = kChannels;
-  spec.samples = kBufferFrames;
+  SDL_AudioSpec audio{};
+  audio.freq = kRate;
+  audio.format = kFormat;
+  audio.channels = kChannels;
+  audio.samples = kBufferFrames;
   if (SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0)
-    device_ = SDL_OpenAudioDevice(nullptr, 0, &spec, nullptr, 0);
+    device_ = SDL_OpenAudioDevice(nullptr, 0, &audio, nullptr, 0);
   if (device_ == 0) {
     failedAt_ = now;
     return false;

@@ -31,16 +31,16 @@ TEST(Assets, SoundsHaveTheirFormatAndLength) {
     const char *format = file.constData() + file.indexOf("fmt ") + 8;
     EXPECT_EQ(qFromLittleEndian<quint16>(format), c.tag);
     EXPECT_EQ(qFromLittleEndian<quint16>(format + 14), c.bits);
-    SDL_AudioSpec spec{};
+    SDL_AudioSpec audio{};
     Uint8 *data = nullptr;
     Uint32 length = 0;
     SDL_RWops *bytes = SDL_RWFromConstMem(file.constData(), static_cast<int>(file.size()));
-    ASSERT_TRUE(SDL_LoadWAV_RW(bytes, 1, &spec, &data, &length)) << SDL_GetError();
+    ASSERT_TRUE(SDL_LoadWAV_RW(bytes, 1, &audio, &data, &length)) << SDL_GetError();
     SDL_FreeWAV(data);
-    EXPECT_EQ(spec.channels, c.channels);
-    EXPECT_EQ(spec.freq, c.rate);
-    const int frame = spec.channels * SDL_AUDIO_BITSIZE(spec.format) / 8;
-    EXPECT_NEAR(static_cast<double>(length) / frame / spec.freq, c.seconds, 0.02);
+    EXPECT_EQ(audio.channels, c.channels);
+    EXPECT_EQ(audio.freq, c.rate);
+    const int frame = audio.channels * SDL_AUDIO_BITSIZE(audio.format) / 8;
+    EXPECT_NEAR(static_cast<double>(length) / frame / audio.freq, c.seconds, 0.02);
   }
 }
 
