@@ -372,7 +372,7 @@ await "presses behind the end and Nein" "${last[@]}"
 
 # Further games in the same window, until the other side has won as well.
 first=$winner
-for game_number in {2..7}; do
+for _ in {2..7}; do
   [ "$winner" = "$first" ] || break
   new_game "$tmp/again.png" J odiaeresis r g
   set_fleet
