@@ -18,6 +18,8 @@ TEST_F(FleetTest, DirectionsThatAreOpen) {
       {"never onto the rim or along it", "", {2, 4}, {1, 2, 3, 1}},
       {"from the left rim to the right only", "", {1, 4}, {2, 2, 2, 2}},
       {"from the lower rim up only", "", {5, 8}, {1, 1, 1, 1}},
+      {"from the upper rim down only", "", {5, 1}, {3, 3, 3, 3}},
+      {"from the right rim to the left only", "", {10, 4}, {4, 4, 4, 4}},
       {"from a corner nowhere", "", {10, 8}, {0, 0, 0, 0}},
       {"two cells short of the rim is too near", "", {9, 7}, {1, 4, 4, 4}},
       {"another boat two ahead closes it", "/....F", {5, 4}, {2, 2, 3, 4}},
