@@ -13,4 +13,7 @@ struct Settings {
   /// Reads the stored settings. A text that is no number from 0 to 255, or a size that there is
   /// not, gives the default of its key.
   static Settings read(const SettingsStore &store);
+
+  /// Stores all three, changed or not.
+  void write(SettingsStore &store) const;
 };

@@ -52,7 +52,7 @@ BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
     : QPushButton(caption, parent) {
   setObjectName(name);
   setGeometry(place);
-  setFont(sansFont(9.75));
+  setFont(sansFont(8.25));
   setToolTip(toolTip);
   setAutoDefault(false);
   setAttribute(Qt::WA_Hover);
@@ -92,7 +92,8 @@ void BlueButton::paintEvent(QPaintEvent *) {
   if (pictured) {
     const int x = inside.x() + (width() - iconSize().width()) / 2;
     const int y = inside.y() + (text().isEmpty() ? (height() - iconSize().height()) / 2 : 2);
-    icon().paint(&painter, QRect({x, y}, iconSize()));
+    icon().paint(&painter, QRect({x, y}, iconSize()), Qt::AlignCenter, QIcon::Normal,
+                 isChecked() ? QIcon::On : QIcon::Off);
   }
   painter.setPen(Qt::black);
   painter.drawText(pictured ? inside.adjusted(0, iconSize().height(), 0, 0) : inside,
@@ -103,14 +104,12 @@ void BlueButton::paintEvent(QPaintEvent *) {
   }
 }
 
-BlueButton *makeOption(QWidget *parent, const QString &name, const QRect &place,
-                       const QString &caption, const QString &picture, const QString &toolTip) {
+BlueButton *makeToggle(QWidget *parent, const QString &name, const QRect &place,
+                       const QString &caption, const QIcon &icon, const QString &toolTip) {
   auto *button = new BlueButton(parent, name, place, caption, toolTip);
-  button->setFont(sansFont(8.25));
-  button->setIcon(loadPicture(picture));
+  button->setIcon(icon);
   button->setIconSize({32, 32});
   button->setCheckable(true);
-  button->setAutoExclusive(true);
   return button;
 }
 
@@ -126,7 +125,7 @@ void ImageButton::paintEvent(QPaintEvent *) { QPainter(this).drawPixmap(rect(), 
 Dialog::Dialog(QWidget *main, QSize inner, const QString &title)
     : QDialog(main, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                         Qt::WindowCloseButtonHint) {
-  setWindowTitle(title);
+  setWindowTitle(title.isEmpty() ? " " : title); // an empty one would become the program's name
   fixPlace(inner, main->size()); // both have the same frame, which counts for nothing
 }
 
@@ -141,6 +140,9 @@ void Dialog::fixPlace(QSize inner, QSize mainSize) {
 }
 
 void Dialog::keyPressEvent(QKeyEvent *event) {
-  // QDialog's own handler would bind Enter and Escape.
-  event->ignore();
+  // QDialog's own handler would bind Enter to a button.
+  if (event->key() == Qt::Key_Escape)
+    close();
+  else
+    event->ignore();
 }

@@ -46,9 +46,10 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 };
 
-/// An option button: one of its group stays down. `picture` is 32 by 32.
-BlueButton *makeOption(QWidget *parent, const QString &name, const QRect &place,
-                       const QString &caption, const QString &picture, const QString &toolTip);
+/// A button that stays down when it is pressed, with an icon of 32 by 32 pixels, which may have a
+/// picture for each of the two states.
+BlueButton *makeToggle(QWidget *parent, const QString &name, const QRect &place,
+                       const QString &caption, const QIcon &icon, const QString &toolTip = {});
 
 /// A picture that takes clicks.
 class ImageButton : public QAbstractButton {
@@ -66,8 +67,8 @@ private:
   QPixmap picture_;
 };
 
-/// A modal window of the game: of fixed size, centred over the main window when it is made. Enter
-/// and Escape press nothing by themselves.
+/// A modal window of the game: of fixed size, centred over the main window when it is made. Escape
+/// closes it, as its frame does; Enter does nothing by itself.
 class Dialog : public QDialog {
   Q_OBJECT
 

@@ -1,9 +1,6 @@
 #include "frmMeldung.h"
 
-#include <QKeyEvent>
-
-frmMeldung::frmMeldung(QWidget *main)
-    : Dialog(main, {354, 141}, " " /* an empty title would become the program's name */) {
+frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, "") {
   auto *picHintergrund = makePicture(this, {2, 2, 349, 137}, "meldung-hintergrund");
 
   lblMeldung_.setParent(picHintergrund);
@@ -21,13 +18,6 @@ frmMeldung::frmMeldung(QWidget *main)
 void frmMeldung::setErgebnis(bool answer) {
   Ergebnis_ = answer;
   close();
-}
-
-void frmMeldung::keyPressEvent(QKeyEvent *event) {
-  if (event->key() == Qt::Key_Escape)
-    setErgebnis(false);
-  else
-    Dialog::keyPressEvent(event);
 }
 
 bool ask(QWidget *main, const QString &text) {

@@ -18,9 +18,6 @@ public:
   /// Stores the answer and closes the box.
   void setErgebnis(bool answer);
 
-protected:
-  void keyPressEvent(QKeyEvent *event) override;
-
 private:
   QLabel lblMeldung_;
   bool Ergebnis_ = false;

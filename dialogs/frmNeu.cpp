@@ -26,24 +26,24 @@ bool isStray(const QKeyEvent &key) {
 
 } // namespace
 
-frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
-    : Dialog(main, {284, 203}, "Neues Spiel"), start_(std::move(start)) {
-  makePicture(this, rect(), "neu-hintergrund");
-
+frmNeu::frmNeu(QWidget *main, int Size, const QString &name, const QString &ComboPath, Start start)
+    : Dialog(main, {284, 203}, "Neues Spiel"), start_(std::move(start)),
+      background_(makePicture(this, rect(), "neu-hintergrund")), cboName_(this),
+      optSize_(this, {56, 88, 49, 49}, 56, Size) {
   auto *lblName = new QLabel("Name des Spielers:", this);
   auto *lblSize = new QLabel("Spielfeld:", this);
+  lblName->setObjectName("lblName");
+  lblSize->setObjectName("lblSize");
   dress(*lblName, {56, 16, 121, 17}, {sansFont(9.75), Qt::white});
   dress(*lblSize, {56, 72, 121, 17}, {sansFont(9.75), Qt::white});
   for (QLabel *label : {lblName, lblSize})
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
-  cboName_.setParent(this);
   cboName_.setObjectName("cboName");
   cboName_.setAccessibleName("Name des Spielers");
   cboName_.setGeometry(56, 32, 161, 24);
   cboName_.setEditable(true);
   cboName_.setInsertPolicy(QComboBox::NoInsert);
-  cboName_.setCompleter(nullptr);
   cboName_.lineEdit()->setContextMenuPolicy(Qt::NoContextMenu); // it would be English
   cboName_.setFont(sansFont(9.75, QFont::Bold));
   cboName_.setToolTip("Gib hier Deinen Namen ein.");
@@ -51,17 +51,6 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
   for (const auto role : {QPalette::Base, QPalette::Button})
     palette.setColor(role, kLightBlue);
   cboName_.setPalette(palette);
-  cboName_.installEventFilter(this);
-
-  const std::array toolTips{"Schnelles Spiel", "Normales Spiel", "Langes Spiel"};
-  for (int i = 0; i < 3; ++i) {
-    const QString number = QString::number(i + 1);
-    auto *option =
-        makeOption(this, QString("optSize%1").arg(i), {56 + 56 * i, 88, 49, 49}, "Größe " + number,
-                   "groesse-" + number, toolTips[static_cast<std::size_t>(i)]);
-    option->setChecked(i == Size - 1);
-    optSize_[static_cast<std::size_t>(i)] = option;
-  }
 
   auto *cmdOK =
       new BlueButton(this, "cmdOK", {80, 168, 57, 25}, "&OK!", "Einstellungen übernehmen");
@@ -70,15 +59,12 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, Start start)
   connect(cmdOK, &QPushButton::clicked, this, &frmNeu::cmdOK_Click);
   connect(cmdAbbruch, &QPushButton::clicked, this, &QWidget::close);
 
+  Intelli_.setCombo(&cboName_);
+  cboName_.installEventFilter(this); // behind the completion's own, so it sees a key before it
+  Intelli_.Load(ComboPath);
+  Intelli_.setEnabled(true);
   cboName_.setEditText(name);
   cboName_.lineEdit()->selectAll();
-}
-
-int frmNeu::GetSize() const {
-  for (int i = 0; i < 3; ++i)
-    if (optSize_[static_cast<std::size_t>(i)]->isChecked())
-      return i + 1;
-  return 0;
 }
 
 void frmNeu::cmdOK_Click() {
@@ -110,3 +96,6 @@ bool frmNeu::eventFilter(QObject *watched, QEvent *event) {
     return true;
   return Dialog::eventFilter(watched, event);
 }
+
+// Neither Enter nor Escape is bound here.
+void frmNeu::keyPressEvent(QKeyEvent *event) { event->ignore(); }

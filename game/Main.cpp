@@ -1,5 +1,7 @@
 #include "Main.h"
 
+#include "EventPump.h"
+#include "frmStart.h"
 #include "pictures.h"
 
 #include <QApplication>
@@ -14,6 +16,7 @@ void dressApplication() {
   palette.setColor(QPalette::Highlight, QColor(20, 70, 140));
   QApplication::setPalette(palette);
   QApplication::setApplicationName("Korvel");
+  QApplication::setApplicationVersion(KORVEL_VERSION);
   QGuiApplication::setDesktopFileName("korvel");
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64})
@@ -22,6 +25,10 @@ void dressApplication() {
 }
 
 std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const QString &folder) {
+  auto splash = std::make_unique<frmStart>(QApplication::applicationVersion());
+  splash->show();
+  letEventsRun();
+
   globals.ScorePath = dataPath(folder, "Score.hsc");
   globals.ComboPath = dataPath(folder, "Combo.txt");
   globals.HelpPath = dataPath(folder, "Hilfe.chm");
@@ -30,11 +37,14 @@ std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const
   globals.sprites = Sprites::load();
   globals.settings = Settings::read(services.store);
   globals.score = Score(std::filesystem::path(globals.ScorePath.toStdU16String()));
-  if (Score::isBroken(globals.score.loadAtStart()))
+  if (Score::isBroken(globals.score.loadAtStart())) {
+    splash.reset(); // it would cover the message
     services.messages.warning("Achtung!", Score::kDamaged);
+  }
 
   auto window = std::make_unique<frmHaupt>(globals, services);
   window->setModus(frmHaupt::Idle);
+  splash.reset();
   window->show();
   return window;
 }

@@ -2,6 +2,7 @@
 
 #include "EventPump.h"
 #include "frmMeldung.h"
+#include "frmOptions.h"
 #include "pictures.h"
 
 #include <QApplication>
@@ -41,7 +42,7 @@ struct Command {
 
 constexpr std::array kCommands{
     Command{"keyNew", "&Neues Spiel", "tb-neu", "Neues Spiel beginnen.", true},
-    Command{"keyOptionen", "&Optionen", "tb-optionen", "Spieleinstellungen ändern", false},
+    Command{"keyOptionen", "&Optionen", "tb-optionen", "Spieleinstellungen ändern", true},
     Command{"keyTop10", "&Top 10", "tb-top10", "Zeigt die Bestenliste.", true},
     Command{"keyEnde", "&Ausgang", "tb-ende", "Spiel verlassen", true},
     Command{"keyHilfe", "&Hilfe", "tb-hilfe", "Einige Infos rund ums Spiel.", false},
@@ -105,6 +106,7 @@ void frmHaupt::buildToolbar() {
   auto *coolbar = new Coolbar(this);
   coolbar->setGeometry(0, 0, kClient.width(), kToolbarHeight + kGap);
   coolbar->lower();
+  tbToolbar.setObjectName("tbToolbar");
   tbToolbar.setGeometry(0, 0, kClient.width(), kToolbarHeight);
   for (const Command &command : kCommands)
     tbToolbar.addButton(command.key, command.caption, command.picture, command.toolTip,
@@ -113,6 +115,7 @@ void frmHaupt::buildToolbar() {
 }
 
 void frmHaupt::buildFields() {
+  picHinten.setObjectName("picHinten");
   picHinten.setGeometry(QRect({0, kToolbarHeight + kGap}, kBackground));
   picHinten.setPixmap(loadPicture("haupt-hintergrund", "jpg"));
 
@@ -144,6 +147,7 @@ void frmHaupt::buildCounters() {
   for (std::size_t group = 0; group < 2; ++group) {
     const int left = kGroupLeft[group];
     auto *imgBoot = new QLabel(&picHinten);
+    imgBoot->setObjectName(QString("imgBoot%1").arg(group));
     imgBoot->setGeometry(left, kBoatTop, 73, 25);
     imgBoot->setScaledContents(true);
     imgBoot->setPixmap(loadPicture("boot-klein"));
@@ -152,6 +156,8 @@ void frmHaupt::buildCounters() {
     for (std::size_t i = 0; i < counters.size(); ++i) {
       const int x = left + kClassStep * static_cast<int>(i);
       auto *lblBeschriftung = new QLabel(kClassNames[i], &picHinten);
+      lblBeschriftung->setObjectName(
+          QString("lblBeschriftung%1").arg(group * kClassNames.size() + i));
       dress(*lblBeschriftung, QRect({x, kClassTop}, kCounter), {serifFont(14.25), kLightCyan});
       lblBeschriftung->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 
@@ -168,6 +174,8 @@ void frmHaupt::runCommand(const QString &key) {
     return;
   if (key == "keyNew")
     DoNew();
+  else if (key == "keyOptionen")
+    DoOptionen();
   else if (key == "keyTop10")
     DoTop10();
   else if (key == "keyEnde")
@@ -182,6 +190,8 @@ void frmHaupt::endWithMessage(const QString &text) {
   services_.messages.warning("Korvel", text);
   close();
 }
+
+void frmHaupt::DoOptionen() { frmOptions(this, globals_.settings, services_.store).exec(); }
 
 void frmHaupt::DoTop10() { frmScore(this, scoreServices()).showModally(); }
 

@@ -60,6 +60,7 @@ private:
   void runCommand(const QString &key);
   void Form_Unload();
   void Grid_ChangePicSize();
+  void DoOptionen();
   void DoTop10();
   void DoEnde();
   ScoreServices scoreServices();

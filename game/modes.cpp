@@ -56,8 +56,10 @@ int frmHaupt::UpdateBoote() {
 }
 
 void frmHaupt::DoNew() {
-  frmNeu dialog(this, Grid->Size(), lblName[0].text(),
+  frmNeu dialog(this, Grid->Size(), lblName[0].text(), globals_.ComboPath,
                 [this](int size, const QString &name) { startGame(size, name); });
+  if (closed())
+    return;
   dialog.exec();
   letEventsRun();
   if (!closed() && !frmSieg_)

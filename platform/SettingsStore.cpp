@@ -7,3 +7,10 @@ QString QtSettingsStore::read(const QString &application, const QString &section
   const QSettings settings(application, application);
   return settings.value(section + '/' + key, fallback).toString();
 }
+
+void QtSettingsStore::write(const QString &application, const QString &section, const QString &key,
+                            const QString &text) {
+  QSettings settings(application, application);
+  settings.setValue(section + '/' + key, text);
+  settings.sync();
+}

@@ -5,7 +5,6 @@
 #include "pictures.h"
 #include "sounds.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace {
@@ -14,8 +13,16 @@ constexpr int kBlink = 400;  // ms
 constexpr int kRowTop = 112; // pixels
 constexpr int kRowStep = 22;
 
-void addLine(QWidget *parent, const QRect &place) {
+void addLabel(QWidget *parent, const QString &name, const QString &text, const QRect &place,
+              const LabelLook &look) {
+  auto *label = new QLabel(text, parent);
+  label->setObjectName(name);
+  dress(*label, place, look);
+}
+
+void addLine(QWidget *parent, const QString &name, const QRect &place) {
   auto *line = new QWidget(parent);
+  line->setObjectName(name);
   line->setGeometry(place);
   line->setPalette(Qt::black);
   line->setAutoFillBackground(true);
@@ -45,16 +52,15 @@ frmScore::~frmScore() {
 void frmScore::buildHeadings() {
   QFont font = sansFont(9.75, QFont::Bold);
   font.setUnderline(true);
-  const std::pair<const char *, QRect> headings[] = {
-      {"Platz", {16, 82, 41, 17}}, {"Name", {80, 82, 89, 17}}, {"Quote", {224, 82, 41, 17}}};
-  for (const auto &[text, place] : headings)
-    dress(*new QLabel(text, this), place, {font, Qt::black});
-  dress(*new QLabel("Zum Beenden auf das Fenster klicken!", this), {40, 340, 221, 13},
-        {sansFont(8.25, QFont::Bold), Qt::white});
+  addLabel(this, "lblBeschriftung0", "Platz", {16, 82, 41, 17}, {font, Qt::black});
+  addLabel(this, "lblBeschriftung1", "Name", {80, 82, 89, 17}, {font, Qt::black});
+  addLabel(this, "lblBeschriftung2", "Quote", {224, 82, 41, 17}, {font, Qt::black});
+  addLabel(this, "lblBeschriftung3", "Zum Beenden auf das Fenster klicken!", {40, 340, 221, 13},
+           {sansFont(8.25, QFont::Bold), Qt::white});
   // Three pixels wide, round a line of one.
-  addLine(this, {13, 103, 270, 3});
-  addLine(this, {55, 80, 3, 257});
-  addLine(this, {191, 80, 3, 257});
+  addLine(this, "linTab1", {13, 103, 270, 3});
+  addLine(this, "linTab0", {55, 80, 3, 257});
+  addLine(this, "linTab2", {191, 80, 3, 257});
 }
 
 void frmScore::buildRows() {
@@ -175,13 +181,6 @@ void frmScore::clearLists() {
     ShowTable(size_);
   }
   comesAgain_ = true;
-}
-
-void frmScore::keyPressEvent(QKeyEvent *event) {
-  if (event->key() == Qt::Key_Escape)
-    close();
-  else
-    Dialog::keyPressEvent(event);
 }
 
 // Labels pass their presses on, tabs and buttons don't.

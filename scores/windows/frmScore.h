@@ -37,7 +37,6 @@ public:
   void showModally();
 
 protected:
-  void keyPressEvent(QKeyEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseReleaseEvent(QMouseEvent *event) override;
 

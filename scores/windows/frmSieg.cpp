@@ -3,8 +3,6 @@
 #include "EventPump.h"
 #include "pictures.h"
 
-#include <QKeyEvent>
-
 namespace {
 
 constexpr QColor kWine(0xAC, 0x0D, 0x4D);
@@ -25,8 +23,9 @@ frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
   dress(lblText_, {8, 64, 369, 49}, {.font = small, .text = Qt::white, .wrapped = true});
   lblText_.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   dress(lblBomben_, {4, 112, 373, 25}, {sansFont(15.75, QFont::Bold), kWine});
-  dress(*new QLabel("Möchtest Du die Highscore-Tabelle ansehen?", &picHinten_), {8, 160, 369, 17},
-        {small, Qt::white});
+  auto *Label1 = new QLabel("Möchtest Du die Highscore-Tabelle ansehen?", &picHinten_);
+  Label1->setObjectName("Label1");
+  dress(*Label1, {8, 160, 369, 17}, {small, Qt::white});
 
   auto *cmdJa = new BlueButton(&picHinten_, "cmdJa", {112, 192, 73, 25}, "&Ja");
   auto *cmdNein = new BlueButton(&picHinten_, "cmdNein", {192, 192, 73, 25}, "&Nein");
@@ -49,11 +48,4 @@ void frmSieg::showScores() {
   close();
   window.setPlatz(Platz_);
   window.showModally();
-}
-
-void frmSieg::keyPressEvent(QKeyEvent *event) {
-  if (event->key() == Qt::Key_Escape)
-    close();
-  else
-    Dialog::keyPressEvent(event);
 }

@@ -23,9 +23,6 @@ public:
   int Platz() const { return Platz_; }
   void setPlatz(int Platz) { Platz_ = Platz; }
 
-protected:
-  void keyPressEvent(QKeyEvent *event) override;
-
 private:
   void showScores();
 

@@ -11,17 +11,19 @@ const QString kFull = "abcdefghijklmn"; // 14 characters
 
 struct frmNeuTest : testing::Test {
   MainWindow main;
-  QString started; ///< size and name of the game
+  QString ComboPath; ///< of no file
+  QString started;   ///< size and name of the game
   std::unique_ptr<frmNeu> dialog;
   QComboBox *cboName = nullptr;
   QLineEdit *edit = nullptr;
 
   void open(int size, const QString &name) {
     started.clear();
-    dialog = std::make_unique<frmNeu>(&main, size, name, [this](int chosen, const QString &player) {
-      EXPECT_FALSE(dialog->isVisible());
-      started += QString("%1 '%2'").arg(chosen).arg(player);
-    });
+    dialog = std::make_unique<frmNeu>(&main, size, name, ComboPath,
+                                      [this](int chosen, const QString &player) {
+                                        EXPECT_FALSE(dialog->isVisible());
+                                        started += QString("%1 '%2'").arg(chosen).arg(player);
+                                      });
     cboName = &Robot::control<QComboBox>(*dialog, "cboName");
     edit = cboName->lineEdit();
     dialog->show();

@@ -1,20 +1,7 @@
 #include "Settings.h"
-
-#include <gtest/gtest.h>
-
-#include <optional>
+#include "windows.h"
 
 namespace {
-
-/// Holds one text under each key of the program's section.
-struct OneTextStore : SettingsStore {
-  std::optional<QString> text;
-
-  QString read(const QString &application, const QString &section, const QString &,
-               const QString &fallback) const override {
-    return application == "Korvel" && section == "Options" ? text.value_or(fallback) : fallback;
-  }
-};
 
 TEST(Settings, WhatIsNoUsableNumberGivesTheDefault) {
   const std::tuple<std::optional<QString>, int, int, int> cases[] = {
@@ -25,7 +12,7 @@ TEST(Settings, WhatIsNoUsableNumberGivesTheDefault) {
       {" ", 1, 1, 2},          {" 3", 3, 3, 3}, // a blank beside a number is harmless
   };
   for (const auto &[text, Sound, Help, StdSize] : cases) {
-    OneTextStore store;
+    RecordingStore store;
     store.text = text;
     const Settings s = Settings::read(store);
     EXPECT_EQ(std::tuple(s.Sound, s.Help, s.StdSize), std::tuple(Sound, Help, StdSize))

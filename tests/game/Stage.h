@@ -3,6 +3,7 @@
 #include "Main.h"
 #include "Robot.h"
 #include "ScriptedDraw.h"
+#include "printQt.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -66,6 +67,7 @@ protected:
   RecordingMessages messages;
   Globals globals;
   Services services{draw, sound, store, messages};
+  SoundPlayer player{sound, globals.settings.Sound};
   std::unique_ptr<frmHaupt> window;
   std::optional<Robot> robot;
 

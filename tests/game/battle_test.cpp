@@ -100,12 +100,21 @@ TEST_F(Battle, QueuedPressesDoNotNest) {
   EXPECT_TRUE(window->isVisible());
 }
 
-TEST_F(Battle, SoundOffKeepsThePace) {
-  store.values["Sound"] = "0";
-  open();
+TEST_F(Battle, SoundOffKeepsThePaceFromTheNextSoundOn) {
   startBattle(1);
+  const std::string board = window->grid()->toText();
+  Robot::onDialog([](QDialog &options) {
+    Robot::click(Robot::control(options, "chkSound"));
+    Robot::click(Robot::control(options, "optSize2"));
+    Robot::click(Robot::control(options, "cmdÜbernehmen"));
+  });
+  robot->command("keyOptionen");
+  EXPECT_EQ(store.values.value("StdSize"), "3");
+  EXPECT_EQ(window->grid()->toText(), board) << "the new size waits for the next start";
   robot->press(fresh(0));
   EXPECT_EQ(sound.log, Log{"sleep 348"});
+  open();
+  EXPECT_EQ(window->grid()->Size(), 3);
 }
 
 } // namespace

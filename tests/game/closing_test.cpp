@@ -4,6 +4,7 @@
 #include "Stage.h"
 
 #include <QApplication>
+#include <QFile>
 
 namespace {
 
@@ -73,6 +74,18 @@ TEST_F(Closing, WithTheEventsOfEveryHandler) {
          });
          robot->command("keyNew");
        }},
+      {"the reading of names",
+       [&] {
+         QFile names(globals.ComboPath);
+         EXPECT_TRUE(names.open(QIODevice::WriteOnly) && names.write("Anna\r\nJ\xf6rg\r\n"));
+         names.close();
+         Robot::onDialog([](QDialog &dialog) {
+           ADD_FAILURE() << "a dialog without its game";
+           dialog.close();
+         });
+         closeSoon();
+         robot->command("keyNew");
+       }},
       {"a shot", [&] { startBattle(1), closeSoon(), robot->press(fresh(0)); }},
       {"the human's victory", [&] { startBattle(1), sound.hook = closeAt("Sieg"), winAsHuman(); }},
       {"the computer's victory",
@@ -95,6 +108,7 @@ TEST_F(Closing, WithADialogOpen) {
   };
   const std::tuple<const char *, std::function<void()>, std::function<void()>> points[] = {
       {"the new-game dialog", [] {}, [&] { robot->command("keyNew"); }},
+      {"the options", [] {}, [&] { robot->command("keyOptionen"); }},
       {"the question of leaving", [] {}, [&] { robot->command("keyEnde"); }},
       {"the question of the fleet", [&] { newGame(1); }, setFleet},
       {"the top ten", [] {}, [&] { robot->command("keyTop10"); }},

@@ -64,4 +64,7 @@ public:
                const QString &fallback) const override {
     return values.value(key, fallback);
   }
+  void write(const QString &, const QString &, const QString &key, const QString &text) override {
+    values[key] = text;
+  }
 };

@@ -1,0 +1,172 @@
+#include "clsIntelliCombo.h"
+
+#include "EventPump.h"
+#include "windows1252.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSaveFile>
+
+namespace {
+
+QString DropFirst(const QString &text) { return text.mid(1); }
+QString DropLast(const QString &text) { return text.chopped(text.isEmpty() ? 0 : 1); }
+
+/// Takes the next line off the text, without its end.
+QByteArray takeLine(QByteArrayView &text) {
+  qsizetype end = 0;
+  while (end < text.size() && text[end] != '\r' && text[end] != '\n')
+    ++end;
+  const QByteArray line = text.first(end).toByteArray();
+  const bool isPair = text.sliced(end).startsWith("\r\n");
+  text = text.sliced(std::min(text.size(), end + (isPair ? 2 : 1)));
+  return line;
+}
+
+} // namespace
+
+void clsIntelliCombo::setCombo(QComboBox *vData) {
+  if (mvarCombo_)
+    mvarCombo_->removeEventFilter(this);
+  mvarCombo_ = vData;
+  if (mvarCombo_) {
+    mvarCombo_->setCompleter(nullptr);
+    mvarCombo_->installEventFilter(this);
+  }
+}
+
+bool clsIntelliCombo::Load(const QString &Filename, bool Append) {
+  if (mvarCombo_ && !Append) {
+    mvarCombo_->clear();
+    mvarCombo_->clearEditText();
+  }
+  QFile file(Filename);
+  // Anything but a plain file could keep the program waiting for ever.
+  if (!QFileInfo(Filename).isFile() || !file.open(QIODevice::ReadOnly))
+    return fail(QFileDevice::OpenError);
+  const QByteArray content = file.readAll();
+  if (file.error() != QFileDevice::NoError)
+    return fail(file.error());
+  for (QByteArrayView rest = content; !rest.isEmpty();) {
+    addEntry(QString::fromStdString(fromWindows1252(takeLine(rest).toStdString())));
+    letEventsRun();
+  }
+  return true;
+}
+
+bool clsIntelliCombo::Save(const QString &Filename, bool Append) {
+  // Written as a whole beside the old file, which it then replaces.
+  QByteArray content;
+  if (QFile old(Filename); Append && old.exists()) {
+    if (!old.open(QIODevice::ReadOnly))
+      return fail(old.error());
+    content = old.readAll();
+    if (!content.isEmpty() && !content.endsWith('\n'))
+      content += "\r\n";
+  }
+  for (int i = 0; mvarCombo_ && i < mvarCombo_->count(); ++i)
+    content += toWindows1252(mvarCombo_->itemText(i).toStdString()) + "\r\n";
+  QSaveFile file(Filename);
+  if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0 || !file.commit())
+    return fail(file.error());
+  return true;
+}
+
+bool clsIntelliCombo::fail(std::int32_t error) {
+  lastError_ = error;
+  return false;
+}
+
+void clsIntelliCombo::addEntry(const QString &entry) {
+  if (!mvarCombo_)
+    return;
+  const bool isFirst = mvarCombo_->count() == 0;
+  const QString text = mvarCombo_->currentText();
+  mvarCombo_->addItem(entry);
+  if (isFirst) { // which Qt has selected
+    mvarCombo_->setCurrentIndex(-1);
+    mvarCombo_->setEditText(text);
+  }
+}
+
+bool clsIntelliCombo::eventFilter(QObject *watched, QEvent *event) {
+  if (enabled_ && mvarCombo_ && mvarCombo_->lineEdit()) {
+    if (event->type() == QEvent::KeyPress && keyPressed(static_cast<QKeyEvent &>(*event)))
+      return true;
+    // What a dead key or another input method has composed: let in first, so that it has done with
+    // its own text in the box, then completed.
+    if (event->type() == QEvent::InputMethod &&
+        !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty()) {
+      mvarCombo_->lineEdit()->event(event);
+      FindAndSelect(mvarCombo_->currentText(), Match::prefix);
+      return true;
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+// True if the key has been dealt with. Keys that do more than type or delete a character keep their
+// ordinary effect: commands, such as Ctrl+Backspace, and Shift+Delete, which cuts.
+bool clsIntelliCombo::keyPressed(const QKeyEvent &key) {
+  const auto modifiers = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+  if (modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier) // both: AltGr
+    return false;
+  if (key.key() == Qt::Key_Backspace ||
+      (key.key() == Qt::Key_Delete && !key.modifiers().testFlag(Qt::ShiftModifier)))
+    return FindAndSelect(NewText(key.key()), Match::exact);
+  const QString typed = key.text();
+  return typed.size() == 1 && typed[0].isPrint() &&
+         FindAndSelect(NewText(typed[0].unicode()), Match::prefix);
+}
+
+// The text that the box would hold after a key: a character, or Qt's code for Backspace or Delete,
+// which is no character's.
+QString clsIntelliCombo::NewText(int key) const {
+  const QLineEdit &edit = *mvarCombo_->lineEdit();
+  const QString text = edit.text();
+  const bool isSelected = edit.hasSelectedText();
+  QString before = text.left(isSelected ? edit.selectionStart() : edit.cursorPosition());
+  QString after = text.mid(before.size() + edit.selectedText().size());
+  if (key != Qt::Key_Backspace && key != Qt::Key_Delete)
+    before += QChar(key);
+  else if (!isSelected && key == Qt::Key_Backspace)
+    before = DropLast(before);
+  else if (!isSelected)
+    after = DropFirst(after);
+  return before + after;
+}
+
+bool clsIntelliCombo::FindAndSelect(const QString &text, Match kind) {
+  QComboBox &box = *mvarCombo_;
+  const int start = std::max(box.currentIndex() - 1, -1); // so that it sees the selected entry too
+  if (text.isEmpty()) {
+    box.setCurrentIndex(-1);
+    box.clearEditText();
+    return start != -1;
+  }
+  const int found = ComboFind(text, start, kind);
+  if (found < 0)
+    return false;
+  const QString entry = box.itemText(found);
+  box.setCurrentIndex(found);
+  box.setEditText(entry);
+  box.lineEdit()->setSelection(static_cast<int>(text.size()),
+                               static_cast<int>(entry.size() - text.size()));
+  return true;
+}
+
+// Looks from the entry behind `start` on and wraps once to the top; -1 if there is none.
+int clsIntelliCombo::ComboFind(const QString &text, int start, Match kind) const {
+  const int count = mvarCombo_->count();
+  for (int step = 1; step <= count; ++step) {
+    const int index = (start + step) % count;
+    const QString entry = mvarCombo_->itemText(index);
+    if (kind == Match::prefix ? entry.startsWith(text, Qt::CaseInsensitive)
+                              : entry.compare(text, Qt::CaseInsensitive) == 0)
+      return index;
+  }
+  return -1;
+}
