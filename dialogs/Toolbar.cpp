@@ -5,7 +5,6 @@
 
 #include <QAbstractButton>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 namespace {
 
@@ -19,6 +18,7 @@ public:
     setIcon(loadPicture(picture));
     setFont(sansFont(9.75));
     setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::TabFocus); // a click leaves no mark
   }
 
 protected:
@@ -38,12 +38,8 @@ protected:
     painter.setPen(isEnabled() ? QColor(10, 25, 60) : QColor(10, 25, 60, 110));
     painter.drawText(rect().adjusted(sunk, 44 + sunk, sunk, -2 + sunk),
                      Qt::AlignCenter | Qt::TextShowMnemonic, text());
-    if (hasFocus()) {
-      QStyleOptionFocusRect focus;
-      focus.initFrom(this);
-      focus.rect = rect().adjusted(3, 3, -3, -3);
-      style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
-    }
+    if (hasFocus())
+      drawFocus(painter, rect().adjusted(3, 3, -4, -4));
   }
 };
 
@@ -52,11 +48,10 @@ protected:
 Toolbar::Toolbar(QWidget *parent) : QWidget(parent) {}
 
 void Toolbar::addButton(const QString &key, const QString &caption, const QString &picture,
-                        const QString &toolTip, bool enabled) {
+                        const QString &toolTip) {
   auto *button = new ToolbarButton(this, caption, picture);
   button->setObjectName(key);
   button->setToolTip(toolTip);
-  button->setEnabled(enabled);
   button->setGeometry(kButtonWidth * buttons_++, 1, kButtonWidth, kButtonHeight);
   connect(button, &QAbstractButton::clicked, this, [this, key] { emit clicked(key); });
 }

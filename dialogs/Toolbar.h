@@ -15,7 +15,7 @@ public:
   /// Appends a button; an ampersand in the caption marks its access key. A click on it raises
   /// `clicked` with its key.
   void addButton(const QString &key, const QString &caption, const QString &picture,
-                 const QString &toolTip, bool enabled);
+                 const QString &toolTip);
 
 signals:
   void clicked(const QString &key);

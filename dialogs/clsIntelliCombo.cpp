@@ -39,35 +39,52 @@ void clsIntelliCombo::setCombo(QComboBox *vData) {
 }
 
 bool clsIntelliCombo::Load(const QString &Filename, bool Append) {
-  if (mvarCombo_ && !Append) {
+  if (!mvarCombo_)
+    return fail(QFileDevice::UnspecifiedError);
+  if (!Append) {
     mvarCombo_->clear();
     mvarCombo_->clearEditText();
   }
-  QFile file(Filename);
-  // Anything but a plain file could keep the program waiting for ever.
-  if (!QFileInfo(Filename).isFile() || !file.open(QIODevice::ReadOnly))
-    return fail(QFileDevice::OpenError);
-  const QByteArray content = file.readAll();
-  if (file.error() != QFileDevice::NoError)
-    return fail(file.error());
-  for (QByteArrayView rest = content; !rest.isEmpty();) {
+  const auto content = contentOf(Filename);
+  if (!content)
+    return false;
+  for (QByteArrayView rest = *content; !rest.isEmpty();) {
     addEntry(QString::fromStdString(fromWindows1252(takeLine(rest).toStdString())));
     letEventsRun();
   }
   return true;
 }
 
+// Nothing, having noted why, if it can't be read to its end.
+std::optional<QByteArray> clsIntelliCombo::contentOf(const QString &Filename) {
+  QFile file(Filename);
+  // Anything but a plain file could keep the program waiting for ever.
+  if (!QFileInfo(Filename).isFile() || !file.open(QIODevice::ReadOnly)) {
+    lastError_ = QFileDevice::OpenError;
+    return std::nullopt;
+  }
+  QByteArray content = file.readAll();
+  if (file.error() != QFileDevice::NoError) {
+    lastError_ = file.error();
+    return std::nullopt;
+  }
+  return content;
+}
+
 bool clsIntelliCombo::Save(const QString &Filename, bool Append) {
   // Written as a whole beside the old file, which it then replaces.
+  if (!mvarCombo_)
+    return fail(QFileDevice::UnspecifiedError);
   QByteArray content;
-  if (QFile old(Filename); Append && old.exists()) {
-    if (!old.open(QIODevice::ReadOnly))
-      return fail(old.error());
-    content = old.readAll();
-    if (!content.isEmpty() && !content.endsWith('\n'))
+  if (Append && QFileInfo::exists(Filename)) {
+    const auto old = contentOf(Filename);
+    if (!old)
+      return false;
+    content = *old;
+    if (!content.isEmpty() && !content.endsWith('\n') && !content.endsWith('\r'))
       content += "\r\n";
   }
-  for (int i = 0; mvarCombo_ && i < mvarCombo_->count(); ++i)
+  for (int i = 0; i < mvarCombo_->count(); ++i)
     content += toWindows1252(mvarCombo_->itemText(i).toStdString()) + "\r\n";
   QSaveFile file(Filename);
   if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0 || !file.commit())

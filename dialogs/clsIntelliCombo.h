@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include <cstdint>
+#include <optional>
 
 /// Gives an editable combo box a list from a text file and completion while typing: as soon as what
 /// is typed is the beginning of an entry, the box shows the whole entry, the part not yet typed
@@ -53,6 +54,7 @@ private:
   QString NewText(int key) const;
   bool FindAndSelect(const QString &text, Match kind);
   int ComboFind(const QString &text, int start, Match kind) const;
+  std::optional<QByteArray> contentOf(const QString &Filename);
   void addEntry(const QString &entry);
   bool fail(std::int32_t error);
 

@@ -30,6 +30,7 @@ void dress(QLabel &label, const QRect &place, const LabelLook &look) {
   label.setTextFormat(Qt::PlainText);
   label.setAlignment(Qt::AlignCenter);
   label.setWordWrap(look.wrapped);
+  label.setIndent(0); // or a border would take room from the text
   QPalette palette = label.palette();
   palette.setColor(QPalette::WindowText, look.text);
   palette.setColor(QPalette::Window, look.background);
@@ -45,6 +46,13 @@ QLabel *makePicture(QWidget *parent, const QRect &place, const QString &picture)
   label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   label->setPixmap(loadPicture(picture));
   return label;
+}
+
+void drawFocus(QPainter &painter, const QRect &place) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(place);
 }
 
 BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
@@ -98,10 +106,8 @@ void BlueButton::paintEvent(QPaintEvent *) {
   painter.setPen(Qt::black);
   painter.drawText(pictured ? inside.adjusted(0, iconSize().height(), 0, 0) : inside,
                    Qt::AlignCenter | Qt::TextShowMnemonic, text());
-  if (hasFocus()) {
-    painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
-    painter.drawRect(plate.adjusted(2, 2, -3, -3));
-  }
+  if (hasFocus())
+    drawFocus(painter, plate.adjusted(2, 2, -3, -3));
 }
 
 BlueButton *makeToggle(QWidget *parent, const QString &name, const QRect &place,

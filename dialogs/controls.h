@@ -31,6 +31,9 @@ void dress(QLabel &label, const QRect &place, const LabelLook &look);
 /// A label that shows the top left of a picture.
 QLabel *makePicture(QWidget *parent, const QRect &place, const QString &picture);
 
+/// The mark of the control with the keyboard focus: a dotted rectangle.
+void drawFocus(QPainter &painter, const QRect &place);
+
 /// A light blue button, caption or picture over caption. No key is bound to it but the access key
 /// of its caption and, with the focus, Space.
 class BlueButton : public QPushButton {

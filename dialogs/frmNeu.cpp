@@ -68,9 +68,10 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, const QString &Comb
 }
 
 void frmNeu::cmdOK_Click() {
-  if (cboName_.currentText().isEmpty())
-    cboName_.setEditText("Unbekannt");
-  const QString name = cboName_.currentText();
+  // A pasted text may bring further lines.
+  QString name = cboName_.currentText().section('\n', 0, 0).section('\r', 0, 0);
+  if (name.isEmpty())
+    name = "Unbekannt";
   hide();
   letEventsRun();
   start_(GetSize(), name);

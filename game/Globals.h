@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HelpViewer.h"
 #include "MessageBox.h"
 #include "PictureBox.h"
 #include "RandomDraw.h"
@@ -19,6 +20,7 @@ struct Services {
   SoundDevice &sound;
   SettingsStore &store;
   MessageBox &messages;
+  HelpViewer &help;
 };
 
 /// The sounds, complete WAV files.
@@ -34,7 +36,7 @@ struct Sounds {
 struct Globals {
   QString ScorePath; ///< `Score.hsc`, the top ten
   QString ComboPath; ///< `Combo.txt`, the list of names
-  QString HelpPath;  ///< `Hilfe.chm`, the help file
+  QString HelpPath;  ///< `Hilfe.qch`, the help file
   Sounds sounds;
   std::array<QPixmap, 2> MuellIcon; ///< the dustbin: 0 grey, 1 red
   Sprites sprites;

@@ -1,6 +1,7 @@
 #include "Main.h"
 
 #include "EventPump.h"
+#include "controls.h"
 #include "frmStart.h"
 #include "pictures.h"
 
@@ -15,6 +16,7 @@ void dressApplication() {
   QPalette palette(QColor(236, 238, 244));
   palette.setColor(QPalette::Highlight, QColor(20, 70, 140));
   QApplication::setPalette(palette);
+  QApplication::setFont(sansFont(9.75)); // tool tips, help
   QApplication::setApplicationName("Korvel");
   QApplication::setApplicationVersion(KORVEL_VERSION);
   QGuiApplication::setDesktopFileName("korvel");
@@ -31,7 +33,7 @@ std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const
 
   globals.ScorePath = dataPath(folder, "Score.hsc");
   globals.ComboPath = dataPath(folder, "Combo.txt");
-  globals.HelpPath = dataPath(folder, "Hilfe.chm");
+  globals.HelpPath = dataPath(folder, "Hilfe.qch");
   globals.sounds = Sounds::load();
   globals.MuellIcon = {loadPicture("muell-grau"), loadPicture("muell-rot")};
   globals.sprites = Sprites::load();

@@ -37,15 +37,14 @@ struct Command {
   const char *caption;
   const char *picture;
   const char *toolTip;
-  bool enabled;
 };
 
 constexpr std::array kCommands{
-    Command{"keyNew", "&Neues Spiel", "tb-neu", "Neues Spiel beginnen.", true},
-    Command{"keyOptionen", "&Optionen", "tb-optionen", "Spieleinstellungen ändern", true},
-    Command{"keyTop10", "&Top 10", "tb-top10", "Zeigt die Bestenliste.", true},
-    Command{"keyEnde", "&Ausgang", "tb-ende", "Spiel verlassen", true},
-    Command{"keyHilfe", "&Hilfe", "tb-hilfe", "Einige Infos rund ums Spiel.", false},
+    Command{"keyNew", "&Neues Spiel", "tb-neu", "Neues Spiel beginnen."},
+    Command{"keyOptionen", "&Optionen", "tb-optionen", "Spieleinstellungen ändern"},
+    Command{"keyTop10", "&Top 10", "tb-top10", "Zeigt die Bestenliste."},
+    Command{"keyEnde", "&Ausgang", "tb-ende", "Spiel verlassen"},
+    Command{"keyHilfe", "&Hilfe", "tb-hilfe", "Einige Infos rund ums Spiel."},
 };
 
 /// The strip behind the toolbar, with its emblem at the right.
@@ -56,10 +55,8 @@ public:
 protected:
   void paintEvent(QPaintEvent *) override {
     QPainter painter(this);
-    painter.drawPixmap(QRect(0, 0, width(), kToolbarHeight), strip_);
+    painter.drawPixmap(rect(), strip_);
     painter.drawPixmap(width() - emblem_.deviceIndependentSize().toSize().width() - 14, 3, emblem_);
-    painter.fillRect(0, kToolbarHeight, width(), 1, QColor(120, 140, 165));
-    painter.fillRect(0, kToolbarHeight + 1, width(), 2, QColor(20, 35, 60));
   }
 
 private:
@@ -100,17 +97,18 @@ frmHaupt::frmHaupt(Globals &globals, const Services &services)
   const QRect area = screen()->geometry();
   move(area.x() + (area.width() - width()) / 2,
        area.y() + (area.height() - height() - kTitleBar) / 2);
+  buildHints();
+  setFocus(); // so that the first Tab leads to the first button
 }
 
 void frmHaupt::buildToolbar() {
   auto *coolbar = new Coolbar(this);
-  coolbar->setGeometry(0, 0, kClient.width(), kToolbarHeight + kGap);
+  coolbar->setGeometry(0, 0, kClient.width(), kToolbarHeight);
   coolbar->lower();
   tbToolbar.setObjectName("tbToolbar");
   tbToolbar.setGeometry(0, 0, kClient.width(), kToolbarHeight);
   for (const Command &command : kCommands)
-    tbToolbar.addButton(command.key, command.caption, command.picture, command.toolTip,
-                        command.enabled);
+    tbToolbar.addButton(command.key, command.caption, command.picture, command.toolTip);
   connect(&tbToolbar, &Toolbar::clicked, this, &frmHaupt::runCommand);
 }
 
@@ -172,6 +170,7 @@ void frmHaupt::buildCounters() {
 void frmHaupt::runCommand(const QString &key) {
   if (closed())
     return;
+  closeHint();
   if (key == "keyNew")
     DoNew();
   else if (key == "keyOptionen")
@@ -180,6 +179,8 @@ void frmHaupt::runCommand(const QString &key) {
     DoTop10();
   else if (key == "keyEnde")
     DoEnde();
+  else if (key == "keyHilfe")
+    DoHilfe(HelpViewer::Entry::contents);
 }
 
 ScoreServices frmHaupt::scoreServices() {
@@ -200,6 +201,13 @@ void frmHaupt::DoEnde() {
     close();
 }
 
+// The strip between toolbar and background is all that is seen of the window itself.
+void frmHaupt::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  painter.fillRect(0, kToolbarHeight, width(), 1, QColor(120, 140, 165));
+  painter.fillRect(0, kToolbarHeight + 1, width(), kGap - 1, QColor(20, 35, 60));
+}
+
 void frmHaupt::closeEvent(QCloseEvent *event) {
   Form_Unload();
   event->accept();
@@ -210,6 +218,8 @@ void frmHaupt::Form_Unload() {
     return;
   Grid.reset();
   frmSieg_.reset();
+  releaseHints();
+  services_.help.close();
   while (QWidget *dialog = QApplication::activeModalWidget()) // a question without its game
     if (!dialog->close())
       break;

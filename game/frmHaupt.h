@@ -2,6 +2,7 @@
 
 #include "BoatInWork.h"
 #include "Globals.h"
+#include "HintServer.h"
 #include "Label.h"
 #include "PictureBox.h"
 #include "SoundPlayer.h"
@@ -11,6 +12,7 @@
 #include "frmSieg.h"
 
 #include <QLabel>
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -51,6 +53,11 @@ public:
 
 protected:
   void closeEvent(QCloseEvent *event) override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
+  void keyReleaseEvent(QKeyEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
 
 private:
   // frmHaupt.cpp: the window
@@ -91,6 +98,15 @@ private:
   std::optional<int> fileResult(const std::string &name, int side);
   void celebrate(int Bild, int Platz, const QString &sentence, const Klang &klang);
 
+  // hints.cpp: hints and help
+  void buildHints();
+  void openHint(const QString &text);
+  void closeHint();
+  void startHintTimer();
+  void releaseHints();
+  void moveHint(const QMouseEvent &event);
+  void DoHilfe(HelpViewer::Entry entry);
+
   Globals &globals_;
   const Services services_;
   SoundPlayer player_;
@@ -103,11 +119,14 @@ private:
   ImageButton imgMüll{&picHinten};
   std::array<QLabel, 6> lblpBoote;
   std::array<QLabel, 6> lblcBoote;
+  HintServer TTip_{sansFont(9.75)};
+  QTimer timTTip_{this}; ///< closes hints
 
   std::unique_ptr<clsGrid> Grid;
   Mode Modus_ = Idle;
   std::array<int, 2> BombenZahl_{};
   QString Bomben_;
+  bool ToolTip_ = false;             ///< a hint is open
   BoatInWork boat_;                  ///< `BootID` and `TeilNr`
   std::unique_ptr<frmSieg> frmSieg_; ///< loaded for the end of the game, not shown before
 };

@@ -1,6 +1,7 @@
 #include "Main.h"
 
 #include "ClockDraw.h"
+#include "QtHelpViewer.h"
 #include "SdlSound.h"
 
 #include <QApplication>
@@ -22,8 +23,10 @@ int main(int argc, char **argv) {
   SdlSound sound;
   QtSettingsStore settings;
   QtMessageBox messages;
+  QtHelpViewer help;
   Globals globals;
-  const auto window = Main(globals, {draw, sound, settings, messages}, app.applicationDirPath());
+  const auto window =
+      Main(globals, {draw, sound, settings, messages, help}, app.applicationDirPath());
   // Opening the sound card can take longer than the whole start, so the first frames come before.
   QTimer::singleShot(kSoundDelay, [&] { sound.open(); });
   return QApplication::exec();

@@ -62,7 +62,10 @@ void frmHaupt::DoNew() {
     return;
   dialog.exec();
   letEventsRun();
-  if (!closed() && !frmSieg_)
+  if (closed())
+    return;
+  openHint("Setze Deine Boote ins linke Feld!\n(Einfach ins Feld klicken...)");
+  if (!frmSieg_)
     frmSieg_ = std::make_unique<frmSieg>(this, scoreServices());
 }
 
@@ -75,6 +78,7 @@ void frmHaupt::startGame(int size, const QString &name) {
 }
 
 void frmHaupt::picpFeld_MouseDown(Qt::MouseButton button, int X, int Y) {
+  closeHint();
   if (closed() || Modus_ == Over || button != Qt::LeftButton)
     return;
   const auto cell = cellAt(X, Y, picpFeld.innerWidth(), picpFeld.innerHeight(), Grid->CellSize());

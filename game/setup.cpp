@@ -42,6 +42,8 @@ void frmHaupt::fleetComplete() {
   player_.PlayWav(globals_.sounds.SndStart, true);
   Grid->MoveFleet();
   setModus(Battle);
+  openHint("Versuche nun, die Boote des Gegners\nim linken Feld zu treffen!\n"
+           "(Einfach ins Feld klicken...)");
 }
 
 void frmHaupt::imgMuell_Click() {

@@ -84,10 +84,12 @@ void play(const QString &folder, int size) {
   ClockDraw draw;
   QuietSound sound;
   MemoryStore store;
+  store.values["Help"] = "0"; // no balloons on the pictures
+  ClosedHelp help;
   QtMessageBox messages;
   Globals globals;
   const QTemporaryDir data; // the top ten of this one game
-  const auto window = Main(globals, {draw, sound, store, messages}, data.path());
+  const auto window = Main(globals, {draw, sound, store, messages, help}, data.path());
   Robot robot(*window);
   Camera camera(*window, folder);
   camera.shoot("1-start");

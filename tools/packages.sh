@@ -9,6 +9,9 @@ g++                c++
 cmake              cmake
 ninja-build        ninja
 qt6-base-dev       /usr/lib*/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake
+qt6-tools-dev      /usr/lib*/cmake/Qt6Help/Qt6HelpConfig.cmake
+qt6-documentation-tools /usr/lib/qt6/libexec/qhelpgenerator
+libqt6sql6-sqlite  /usr/lib/*/qt6/plugins/sqldrivers/libqsqlite.so
 libgl-dev          /usr/include/GL/gl.h
 libsdl2-dev        /usr/include/SDL2/SDL.h
 fonts-liberation   /usr/share/fonts/*/LiberationSerif-Bold.ttf

@@ -1,10 +1,13 @@
 #include "clsIntelliCombo.h"
 #include "windows.h"
 
+#include <QAbstractItemView>
 #include <QFile>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -123,6 +126,11 @@ TEST_F(IntelliCombo, LivesWithMouseWheelListAndOtherKeys) {
                     false);
   QApplication::sendEvent(&box, &wheel);
   EXPECT_EQ(box.currentText(), "Anna");
+  box.showPopup();
+  const QRect entry = box.view()->visualRect(box.model()->index(2, 0));
+  QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {}, entry.center());
+  EXPECT_EQ(state(), "Berta 2");
+  box.setCurrentIndex(0);
   box.lineEdit()->selectAll();
   key(main, Qt::Key_X, "\x18", Qt::ControlModifier); // cut
   EXPECT_EQ(box.currentText(), "");
@@ -161,7 +169,9 @@ TEST_F(IntelliCombo, CompletesNothingWhenDisabledOrLetGo) {
   EXPECT_EQ(combo.Combo(), &other);
   combo.setCombo(nullptr);
   write("names", "Berta\r\n");
-  EXPECT_TRUE(combo.Load(path("names")));
+  EXPECT_FALSE(combo.Load(path("names")));
+  EXPECT_FALSE(combo.Save(path("names")));
+  EXPECT_EQ(content("names"), "Berta\r\n");
 }
 
 TEST_F(IntelliCombo, LoadsEveryLine) {
@@ -207,6 +217,9 @@ TEST_F(IntelliCombo, FailuresTellAndLoseNothing) {
   EXPECT_EQ(entries(), QStringList()) << "cleared all the same";
   EXPECT_FALSE(combo.Save(path("nowhere/names")));
   EXPECT_FALSE(combo.Save(folder.path(), true));
+  ASSERT_EQ(mkfifo(qPrintable(path("pipe")), 0600), 0);
+  EXPECT_FALSE(combo.Load(path("pipe")));
+  EXPECT_FALSE(combo.Save(path("pipe"), true));
   EXPECT_FALSE(combo.Save(folder.path()));
   EXPECT_TRUE(combo.Save(path("names")));
   EXPECT_EQ(combo.LastError(), QFileDevice::WriteError) << "of the last that failed";
@@ -223,9 +236,11 @@ TEST_F(IntelliCombo, SaveAndLoadGoRound) {
   fill({"Ωmega"});
   EXPECT_TRUE(combo.Save(path("names")));
   EXPECT_EQ(content("names"), "?mega\r\n");
-  write("names", "open end");
-  EXPECT_TRUE(combo.Save(path("names"), true));
-  EXPECT_EQ(content("names"), "open end\r\n?mega\r\n");
+  for (const QByteArray before : {"", "open end", "Anna\r", "Anna\r\n"}) {
+    write("names", before);
+    EXPECT_TRUE(combo.Save(path("names"), true));
+    EXPECT_EQ(content("names"), before + (before == "open end" ? "\r\n" : "") + "?mega\r\n");
+  }
 }
 
 } // namespace

@@ -120,6 +120,7 @@ TEST_F(frmNeuTest, EachWayOutStartsItsGameOnceOrNone) {
       {1, "Jörg", click("cmdOK"), "1 'Jörg'"},
       {2, "", click("cmdOK"), "2 'Unbekannt'"},
       {3, "   ", click("cmdOK"), "3 '   '"},
+      {3, "Max\r\nMoritz\n", click("cmdOK"), "3 'Max'"},
       {0, " J g ", click("cmdOK"), "0 ' J g '"},
       {1, "Jörg", click("cmdAbbruch"), ""},
       {1, "Jörg", [this] { key(*dialog, Qt::Key_A, "a", Qt::AltModifier); }, ""},

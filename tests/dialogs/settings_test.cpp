@@ -1,6 +1,10 @@
 #include "Settings.h"
 #include "windows.h"
 
+#include <QDir>
+
+#include <sys/stat.h>
+
 namespace {
 
 TEST(Settings, WhatIsNoUsableNumberGivesTheDefault) {
@@ -18,6 +22,30 @@ TEST(Settings, WhatIsNoUsableNumberGivesTheDefault) {
     EXPECT_EQ(std::tuple(s.Sound, s.Help, s.StdSize), std::tuple(Sound, Help, StdSize))
         << text.value_or("absent").toStdString();
   }
+}
+
+TEST(Settings, NothingInThePlaceOfTheFileStopsTheGame) {
+  QtSettingsStore store;
+  const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Korvel";
+  const QString file = folder + "/Korvel.conf";
+  const auto stored = [&] { return store.read("Korvel", "Options", "StdSize", "none"); };
+  const auto write = [&](const char *text) { store.write("Korvel", "Options", "StdSize", text); };
+  EXPECT_EQ(stored(), "none");
+  write("3");
+  EXPECT_EQ(stored(), "3");
+
+  ASSERT_TRUE(QDir().mkdir(file + ".lock")); // a lock that nobody gives back
+  write("1");
+  EXPECT_EQ(stored(), "3");
+  QDir().rmdir(file + ".lock");
+  QFile::remove(file);
+  ASSERT_EQ(mkfifo(qPrintable(file), 0600), 0);
+  write("1");
+  EXPECT_EQ(stored(), "none");
+  QDir(folder).removeRecursively();
+  ASSERT_TRUE(QFile(folder).open(QIODevice::WriteOnly)); // a file where its folder should be
+  write("1");
+  EXPECT_EQ(stored(), "none");
 }
 
 } // namespace

@@ -110,10 +110,10 @@ start() {
   await_window main 700x473 '^Korvel$'
 }
 
-# Settings at first: quiet, size 2.
+# Settings at first: quiet, without hints, size 2.
 mkdir -p "$tmp/config/Korvel"
 mkdir -m 700 "$tmp/run"
-printf '[Options]\nSound=0\nStdSize=2\n' >"$tmp/config/Korvel/Korvel.conf"
+printf '[Options]\nSound=0\nHelp=0\nStdSize=2\n' >"$tmp/config/Korvel/Korvel.conf"
 cp "$1"/* "$tmp" # what it writes beside itself stays here
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$tmp/display" 2>"$tmp/x.log" &
 xvfb=$!

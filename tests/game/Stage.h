@@ -41,6 +41,16 @@ struct RecordingMessages : MessageBox {
   void warning(const QString &title, const QString &text) override { critical(title, text); }
 };
 
+struct RecordingHelp : HelpViewer {
+  Log log; ///< "1 FILE", "2 FILE" for contents and index, "close"
+  bool readable = true;
+  bool show(const QString &file, Entry entry) override {
+    log.push_back(std::to_string(static_cast<int>(entry)) + ' ' + file.toStdString());
+    return readable;
+  }
+  void close() override { log.push_back("close"); }
+};
+
 /// The real main window with everything outside it replaced.
 class Stage : public testing::Test {
 protected:
@@ -66,7 +76,8 @@ protected:
   QTemporaryDir folder; ///< of the data files
   RecordingMessages messages;
   Globals globals;
-  Services services{draw, sound, store, messages};
+  RecordingHelp help;
+  Services services{draw, sound, store, messages, help};
   SoundPlayer player{sound, globals.settings.Sound};
   std::unique_ptr<frmHaupt> window;
   std::optional<Robot> robot;

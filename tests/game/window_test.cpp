@@ -1,6 +1,7 @@
 #include "Stage.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 
 namespace {
 
@@ -16,6 +17,8 @@ TEST_F(Window, StartsIdle) {
   EXPECT_FALSE(control("imgMüll").isVisible());
   EXPECT_EQ(globals.ScorePath, folder.path() + "/Score.hsc");
   EXPECT_EQ(sound.log, Log{});
+  for (const QWidget *other : QApplication::topLevelWidgets())
+    EXPECT_EQ(other->isVisible(), other == window.get()) << "the splash has gone";
   store.values["StdSize"] = "3";
   open();
   EXPECT_EQ(control("picpFeld").size(), QSize(323, 259)) << "the stored size counts at once";
@@ -77,7 +80,7 @@ TEST_F(Window, FleetThatCannotBeMadeEndsTheProgram) {
     double next() override { return 0; } // a corner, for ever
   } stuck;
   robot.reset();
-  window = Main(globals, {stuck, sound, store, messages}, folder.path());
+  window = Main(globals, {stuck, sound, store, messages, help}, folder.path());
   robot.emplace(*window);
   newGame(1);
   EXPECT_EQ(messages.shown, std::vector<QString>{"Fehler!|Systemfehler\r\n\r\n"

@@ -5,9 +5,86 @@
 #include <SDL.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <numbers>
+
 namespace {
 
-TEST(Assets, SoundsHaveTheirFormatAndLength) {
+double decibel(double value) { return 20 * std::log10(value); }
+
+/// A sound as its player hears it: the samples of a frame side by side, from -1 to 1.
+struct Sound {
+  std::vector<float> samples;
+  int channels = 0, rate = 0;
+
+  explicit Sound(const QByteArray &file) {
+    SDL_AudioSpec audio{};
+    Uint8 *data = nullptr;
+    Uint32 length = 0;
+    if (!SDL_LoadWAV_RW(SDL_RWFromConstMem(file.constData(), static_cast<int>(file.size())), 1,
+                        &audio, &data, &length))
+      return;
+    channels = audio.channels;
+    rate = audio.freq;
+    SDL_AudioStream *stream =
+        SDL_NewAudioStream(audio.format, audio.channels, rate, AUDIO_F32SYS, audio.channels, rate);
+    SDL_AudioStreamPut(stream, data, static_cast<int>(length));
+    SDL_AudioStreamFlush(stream);
+    samples.resize(static_cast<std::size_t>(SDL_AudioStreamAvailable(stream)) / sizeof(float));
+    SDL_AudioStreamGet(stream, samples.data(), static_cast<int>(samples.size() * sizeof(float)));
+    SDL_FreeAudioStream(stream);
+    SDL_FreeWAV(data);
+  }
+
+  std::size_t frames() const { return samples.size() / static_cast<std::size_t>(channels); }
+
+  double peak(std::size_t from, std::size_t to) const {
+    double highest = 0;
+    for (std::size_t i = from; i < to; ++i)
+      highest = std::max(highest, std::abs(static_cast<double>(samples[i])));
+    return highest;
+  }
+
+  /// Of the loudest 400 ms, in dB, by the K weighting of ITU-R BS.1770: highs count more, rumble
+  /// less. A mono sound comes from two speakers.
+  double loudness() const {
+    const auto c = static_cast<std::size_t>(channels);
+    const std::size_t window = static_cast<std::size_t>(rate) * 2 / 5;
+    std::vector<double> power(frames() + window);
+    for (std::size_t channel = 0; channel < c; ++channel) {
+      const double high = std::pow(10, 3.99984 / 20), band = std::pow(high, 0.49967);
+      double k = std::tan(std::numbers::pi * 1681.97 / rate), q = 0.70718;
+      double a0 = 1 + k / q + k * k;
+      Filter shelf{{(high + band * k / q + k * k) / a0, 2 * (k * k - high) / a0,
+                    (high - band * k / q + k * k) / a0},
+                   {2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0}};
+      k = std::tan(std::numbers::pi * 38.1355 / rate), q = 0.50033;
+      a0 = 1 + k / q + k * k;
+      Filter lowCut{{1, -2, 1}, {2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0}};
+      for (std::size_t i = 0; i < frames(); ++i)
+        power[i] += std::pow(lowCut(shelf(samples[c * i + channel])), 2) * (c == 1 ? 2 : 1);
+    }
+    double sum = 0, loudest = 0;
+    for (std::size_t i = 0; i < power.size(); ++i) {
+      sum += power[i] - (i < window ? 0 : power[i - window]);
+      loudest = std::max(loudest, sum);
+    }
+    return -0.691 + decibel(loudest / static_cast<double>(window)) / 2;
+  }
+
+private:
+  struct Filter {
+    double b[3], a[2], x1 = 0, x2 = 0, y1 = 0, y2 = 0;
+    double operator()(double x) {
+      const double y = b[0] * x + b[1] * x1 + b[2] * x2 - a[0] * y1 - a[1] * y2;
+      x2 = std::exchange(x1, x);
+      y2 = std::exchange(y1, y);
+      return y;
+    }
+  };
+};
+
+TEST(Assets, SoundsHaveTheirFormatLengthAndOneLoudness) {
   struct Case {
     const char *name;
     int bytes, tag, channels, rate, bits;
@@ -27,42 +104,91 @@ TEST(Assets, SoundsHaveTheirFormatAndLength) {
     ASSERT_TRUE(resource.open(QIODevice::ReadOnly));
     const QByteArray file = resource.readAll();
     EXPECT_EQ(file.size(), c.bytes);
-
     const char *format = file.constData() + file.indexOf("fmt ") + 8;
     EXPECT_EQ(qFromLittleEndian<quint16>(format), c.tag);
     EXPECT_EQ(qFromLittleEndian<quint16>(format + 14), c.bits);
-    SDL_AudioSpec audio{};
-    Uint8 *data = nullptr;
-    Uint32 length = 0;
-    SDL_RWops *bytes = SDL_RWFromConstMem(file.constData(), static_cast<int>(file.size()));
-    ASSERT_TRUE(SDL_LoadWAV_RW(bytes, 1, &audio, &data, &length)) << SDL_GetError();
-    SDL_FreeWAV(data);
-    EXPECT_EQ(audio.channels, c.channels);
-    EXPECT_EQ(audio.freq, c.rate);
-    const int frame = audio.channels * SDL_AUDIO_BITSIZE(audio.format) / 8;
-    EXPECT_NEAR(static_cast<double>(length) / frame / audio.freq, c.seconds, 0.02);
+
+    const Sound sound(file);
+    ASSERT_EQ(sound.channels, c.channels) << SDL_GetError();
+    EXPECT_EQ(sound.rate, c.rate);
+    EXPECT_NEAR(static_cast<double>(sound.frames()) / sound.rate, c.seconds, 0.02);
+    const std::size_t all = sound.samples.size(), twoMs = all / sound.frames() * c.rate / 500;
+    EXPECT_LT(decibel(sound.peak(0, all)), -1.5);
+    EXPECT_NEAR(sound.loudness(), -15, 0.5);
+    // No click: the ends are silent.
+    EXPECT_LT(sound.peak(0, twoMs), 0.01);
+    EXPECT_LT(sound.peak(all - twoMs, all), 0.01);
   }
 }
 
 TEST(Assets, PicturesHaveTheSizeOfTheDesignAndTwiceThat) {
-  const std::pair<QSize, QStringList> cases[] = {
-      {{701, 405}, {"haupt-hintergrund"}},
-      {{700, 50}, {"leiste"}},
-      {{90, 60}, {"leiste-bild"}},
-      {{49, 40}, {"tb-neu", "tb-optionen", "tb-top10", "tb-ende", "tb-hilfe"}},
-      {{97, 51}, {"boot-klein"}},
-      {{32, 32}, {"fadenkreuz", "muell-grau", "muell-rot", "groesse-1", "groesse-2", "groesse-3"}},
-      {{25, 25}, {"wasser", "daneben", "versenkt"}},
-      {{34, 33}, {"boot", "treffer"}},
-      {{332, 245}, {"neu-hintergrund"}},
-      {{401, 198}, {"meldung-hintergrund"}},
+  struct Case {
+    QSize size;
+    bool seeThrough;
+    QStringList names;
   };
-  for (const auto &[size, names] : cases)
-    for (const QString &name : names) {
-      // Without an ending Qt tries those that it knows.
-      EXPECT_EQ(QImage(":/pictures/" + name).size(), size) << name.toStdString();
-      EXPECT_EQ(QImage(":/pictures/" + name + "@2x").size(), 2 * size) << name.toStdString();
-    }
+  const Case cases[] = {
+      {{701, 405}, false, {"haupt-hintergrund"}},
+      {{700, 50}, false, {"leiste"}},
+      {{90, 60}, true, {"leiste-bild"}},
+      {{49, 40}, true, {"tb-neu", "tb-optionen", "tb-top10", "tb-ende", "tb-hilfe"}},
+      {{97, 51}, true, {"boot-klein"}},
+      {{32, 32}, true, {"fadenkreuz", "muell-grau", "muell-rot", "groesse-1", "groesse-2"}},
+      {{32, 32}, true, {"groesse-3", "ton-an", "ton-aus", "hilfe-an", "hilfe-aus"}},
+      {{25, 25}, false, {"wasser", "daneben", "versenkt"}},
+      {{34, 33}, false, {"boot", "treffer"}},
+      {{332, 245}, false, {"neu-hintergrund"}},
+      {{401, 198}, false, {"meldung-hintergrund"}},
+      {{383, 222}, false, {"sieg-hintergrund", "optionen-hintergrund"}},
+      {{351, 30}, true, {"banner-sieg"}},
+      {{153, 27}, true, {"banner-verloren"}},
+      {{276, 81}, true, {"banner-optionen"}},
+      {{300, 382}, false, {"score-hintergrund"}},
+      {{16, 16}, true, {"muell-klein"}},
+      {{300, 160}, false, {"start"}},
+  };
+  for (const Case &c : cases)
+    for (const QString &name : c.names)
+      for (const int scale : {1, 2}) {
+        // Without an ending Qt tries those that it knows.
+        const QImage picture(":/pictures/" + name + (scale == 2 ? "@2x" : ""));
+        EXPECT_EQ(picture.size(), scale * c.size) << name.toStdString();
+        EXPECT_EQ(picture.hasAlphaChannel(), c.seeThrough) << name.toStdString();
+      }
+  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    EXPECT_EQ(QImage(QString(":/pictures/korvel-%1.png").arg(size)).size(), QSize(size, size));
+}
+
+/// The mean difference of two pictures of the same size, 0 to 255.
+double difference(const QImage &a, const QImage &b) {
+  double sum = 0;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x)
+      sum += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y)));
+  return sum / (a.width() * a.height());
+}
+
+TEST(Assets, WaterJoinsItselfWithoutASeam) {
+  const QImage water(":/pictures/wasser@2x.png");
+  const int last = water.width() - 1;
+  const auto column = [&](int x) { return water.copy(x, 0, 1, last + 1); };
+  const auto row = [&](int y) { return water.copy(0, y, last + 1, 1); };
+  double roughest = 0;
+  for (int i = 0; i < last; ++i)
+    roughest =
+        std::max({roughest, difference(column(i), column(i + 1)), difference(row(i), row(i + 1))});
+  EXPECT_LE(difference(column(last), column(0)), roughest);
+  EXPECT_LE(difference(row(last), row(0)), roughest);
+}
+
+TEST(Assets, CellsAreToldApartInGreyAtTheSmallestSize) {
+  std::vector<QImage> cells;
+  for (const char *name : {"wasser", "boot", "daneben", "treffer", "versenkt"})
+    cells.push_back(QImage(QString(":/pictures/%1@2x.png").arg(name))
+                        .scaled(15, 15, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  for (std::size_t i = 0; i < cells.size(); ++i)
+    for (std::size_t j = 0; j < i; ++j)
+      EXPECT_GT(difference(cells[i], cells[j]), 20) << i << " and " << j;
 }
 
 } // namespace

@@ -15,9 +15,11 @@ struct Game {
   ClockDraw draw;
   QuietSound sound;
   MemoryStore store;
+  ClosedHelp help;
   QtMessageBox messages;
   Globals globals;
-  std::unique_ptr<frmHaupt> window = Main(globals, {draw, sound, store, messages}, "/nowhere");
+  std::unique_ptr<frmHaupt> window =
+      Main(globals, {draw, sound, store, messages, help}, "/nowhere");
   Robot robot{*window};
 };
 

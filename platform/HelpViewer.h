@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// Shows the help book in a window of its own.
+class HelpViewer {
+public:
+  virtual ~HelpViewer() = default;
+
+  /// Where a book is opened.
+  enum class Entry { contents = 1, index = 2 };
+
+  /// Opens the book, or comes back to it. Doesn't wait for its closing. False if the file is
+  /// missing or can't be read, which shows nothing.
+  virtual bool show(const QString &file, Entry entry) = 0;
+  /// Closes the window, if there is one.
+  virtual void close() = 0;
+};

@@ -1,0 +1,168 @@
+#include "HelpWindow.h"
+
+#include <QBoxLayout>
+#include <QHelpContentWidget>
+#include <QHelpIndexModel>
+#include <QHelpLink>
+#include <QKeyEvent>
+#include <QSplitter>
+#include <QStyle>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize kWindow(860, 600);    // pixels
+constexpr int kNavigationWidth = 250; // pixels
+
+} // namespace
+
+bool Keywords::lessThan(const QModelIndex &left, const QModelIndex &right) const {
+  return collator_.compare(left.data().toString(), right.data().toString()) < 0;
+}
+
+Pages::Pages(QWidget *parent, const QHelpEngineCore &book) : QTextBrowser(parent), book_(book) {
+  setContextMenuPolicy(Qt::NoContextMenu); // it would be English
+}
+
+QVariant Pages::loadResource(int type, const QUrl &url) {
+  if (type == QTextDocument::ImageResource && devicePixelRatio() > 1) {
+    QUrl dense = url;
+    dense.setPath(url.path().replace(".png", "@2x.png"));
+    if (const QByteArray picture = book_.fileData(dense); !picture.isEmpty())
+      return picture;
+  }
+  return book_.fileData(url);
+}
+
+HelpWindow::HelpWindow(const QString &file) : book_(folder_.filePath("buch.qhc")) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle("Korvel – Hilfe");
+  resize(kWindow);
+
+  book_.setReadOnly(false);
+  book_.setUsesFilterEngine(true);
+  if (!book_.setupData() || !book_.registerDocumentation(file))
+    return;
+  const QString space = QHelpEngineCore::namespaceName(file);
+  const QList<QUrl> pages = book_.files(space, QString(), "html");
+  const auto first = std::find_if(pages.begin(), pages.end(),
+                                  [](const QUrl &url) { return url.fileName() == "korvel.html"; });
+  if (first == pages.end() || book_.fileData(*first).isEmpty())
+    return;
+  home_ = *first;
+  buildContents();
+  buildIndex();
+  buildText();
+  pages_.setSource(home_);
+}
+
+HelpWindow::~HelpWindow() = default;
+
+void HelpWindow::buildContents() {
+  QHelpContentWidget *contents = book_.contentWidget();
+  contents->setRootIsDecorated(false);
+  tabs_.addTab(contents, "Inhalt");
+  const auto showTopic = [this](const QModelIndex &topic) {
+    if (const QHelpContentItem *item = book_.contentModel()->contentItemAt(topic))
+      pages_.setSource(item->url());
+  };
+  connect(contents, &QTreeView::clicked, this, showTopic);
+  connect(contents, &QTreeView::activated, this, showTopic);
+  // The topic of the page that is shown is the one selected.
+  const auto select = [this, contents] {
+    contents->setCurrentIndex(contents->indexOf(pages_.source().adjusted(QUrl::RemoveFragment)));
+  };
+  connect(&pages_, &QTextBrowser::sourceChanged, this, select);
+  connect(book_.contentModel(), &QHelpContentModel::contentsCreated, this, select);
+  book_.contentModel()->createContents(QString());
+}
+
+void HelpWindow::buildIndex() {
+  keywords_.setSourceModel(book_.indexModel());
+  keywords_.setFilterCaseSensitivity(Qt::CaseInsensitive);
+  keywords_.sort(0);
+  book_.indexModel()->createIndex(QString());
+  search_.setPlaceholderText("Stichwort suchen");
+  search_.setAccessibleName("Stichwort suchen");
+  search_.setClearButtonEnabled(true);
+  search_.setContextMenuPolicy(Qt::NoContextMenu);
+  index_.setModel(&keywords_);
+  index_.setAccessibleName("Stichwörter");
+  index_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  index_.setUniformItemSizes(true);
+
+  auto *page = new QWidget;
+  auto *column = new QVBoxLayout(page);
+  column->setContentsMargins(4, 4, 4, 4);
+  column->addWidget(&search_);
+  column->addWidget(&index_);
+  tabs_.addTab(page, "Index");
+
+  connect(&search_, &QLineEdit::textChanged, this, [this](const QString &text) {
+    keywords_.setFilterFixedString(text);
+    index_.setCurrentIndex(keywords_.index(0, 0));
+  });
+  connect(&search_, &QLineEdit::returnPressed, this,
+          [this] { showKeyword(index_.currentIndex()); });
+  connect(&index_, &QListView::clicked, this, &HelpWindow::showKeyword);
+  connect(&index_, &QListView::activated, this, &HelpWindow::showKeyword);
+}
+
+void HelpWindow::buildText() {
+  auto *bar = new QToolBar;
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  const auto addAction = [&](QStyle::StandardPixmap icon, const QString &text,
+                             const QKeySequence &keys, void (QTextBrowser::*go)(),
+                             void (QTextBrowser::*available)(bool)) {
+    QAction *action = bar->addAction(style()->standardIcon(icon), text);
+    action->setShortcut(keys);
+    action->setEnabled(false);
+    connect(action, &QAction::triggered, &pages_, go);
+    connect(&pages_, available, action, &QAction::setEnabled);
+  };
+  addAction(QStyle::SP_ArrowBack, "Zurück", QKeySequence(Qt::ALT | Qt::Key_Left),
+            &QTextBrowser::backward, &QTextBrowser::backwardAvailable);
+  addAction(QStyle::SP_ArrowForward, "Vor", QKeySequence(Qt::ALT | Qt::Key_Right),
+            &QTextBrowser::forward, &QTextBrowser::forwardAvailable);
+
+  auto *right = new QWidget;
+  auto *column = new QVBoxLayout(right);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(bar);
+  column->addWidget(&pages_);
+  auto *splitter = new QSplitter;
+  splitter->addWidget(&tabs_);
+  splitter->addWidget(right);
+  splitter->setSizes({kNavigationWidth, kWindow.width() - kNavigationWidth});
+  splitter->setStretchFactor(1, 1);
+  auto *whole = new QVBoxLayout(this);
+  whole->setContentsMargins(6, 6, 6, 6);
+  whole->addWidget(splitter);
+}
+
+void HelpWindow::showKeyword(const QModelIndex &keyword) {
+  const QList<QHelpLink> links = book_.documentsForKeyword(keyword.data().toString());
+  if (!links.isEmpty())
+    pages_.setSource(links.first().url);
+}
+
+void HelpWindow::open(HelpViewer::Entry entry) {
+  const bool isIndex = entry == HelpViewer::Entry::index;
+  tabs_.setCurrentIndex(isIndex ? 1 : 0);
+  show();
+  raise();
+  activateWindow();
+  if (isIndex)
+    search_.setFocus();
+  else
+    book_.contentWidget()->setFocus();
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Escape)
+    close();
+  else
+    QWidget::keyPressEvent(event);
+}
