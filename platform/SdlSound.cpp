@@ -17,7 +17,9 @@ constexpr std::chrono::milliseconds kBufferTime{1000 * kBufferFrames / kRate + 1
 constexpr std::chrono::seconds kRetry{10};
 constexpr std::chrono::seconds kSilence{30}; // longer than the longest sound, 19 s
 
-QByteArray decode(const Klang &klang) {
+} // namespace
+
+QByteArray SdlSound::decoded(const Klang &klang) {
   SDL_AudioSpec audio{};
   Uint8 *data = nullptr;
   Uint32 length = 0;
@@ -41,8 +43,6 @@ QByteArray decode(const Klang &klang) {
   pcm.squeeze();
   return pcm;
 }
-
-} // namespace
 
 SdlSound::SdlSound() {
   silence_.setSingleShot(true);
@@ -107,16 +107,16 @@ std::optional<std::chrono::microseconds> SdlSound::play(const Klang &klang) {
   if (!open())
     return std::nullopt;
   SDL_ClearQueuedAudio(device_);
-  const QByteArray &pcm = decoded(klang);
+  const QByteArray &pcm = remembered(klang);
   if (pcm.isEmpty() ||
       SDL_QueueAudio(device_, pcm.constData(), static_cast<Uint32>(pcm.size())) != 0)
     return std::nullopt;
   return std::chrono::microseconds(pcm.size() * 1'000'000 / kBytesPerSecond);
 }
 
-const QByteArray &SdlSound::decoded(const Klang &klang) {
+const QByteArray &SdlSound::remembered(const Klang &klang) {
   auto found = decoded_.find(klang);
   if (found == decoded_.end())
-    found = decoded_.insert(klang, decode(klang));
+    found = decoded_.insert(klang, decoded(klang));
   return *found;
 }

@@ -27,11 +27,14 @@ public:
   bool playToEnd(const Klang &klang) override;
   void sleep(int ms) override;
 
+  /// The sound in the format of the device, 44.1 kHz, stereo, 16 bits; empty if it is no WAV file
+  /// that SDL knows.
+  static QByteArray decoded(const Klang &klang);
+
 private:
   /// Starts a sound and gives its length; nothing if it can't be heard.
   std::optional<std::chrono::microseconds> play(const Klang &klang);
-  /// The sound in the format of the device; empty if it is no WAV file that SDL knows.
-  const QByteArray &decoded(const Klang &klang);
+  const QByteArray &remembered(const Klang &klang);
   void close();
 
   std::uint32_t device_ = 0; ///< SDL's number of the open device, 0 for none

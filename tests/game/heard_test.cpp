@@ -1,0 +1,106 @@
+// A whole game through the real sound device, SDL writing what would be heard into a file: each
+// sound that was called for is there, in order, whole or cut by the next one.
+
+#include "SdlSound.h"
+#include "Stage.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+#include <span>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Frames = std::vector<quint32>; // both channels of 16 bits
+
+/// Hands everything on and writes it down.
+struct LoggedSound : SoundDevice {
+  struct Call {
+    Klang klang;
+    bool waits;
+    Clock::time_point at;
+  };
+  SdlSound device;
+  std::vector<Call> calls;
+
+  void start(const Klang &klang) override {
+    calls.push_back({QByteArray(klang.constData(), klang.size()), false, Clock::now()});
+    device.start(klang);
+  }
+  bool playToEnd(const Klang &klang) override {
+    calls.push_back({QByteArray(klang.constData(), klang.size()), true, Clock::now()});
+    return device.playToEnd(klang);
+  }
+  void sleep(int ms) override { FAIL() << "a computed wait of " << ms; }
+};
+
+Frames framesOf(const QByteArray &pcm) {
+  Frames frames(static_cast<std::size_t>(pcm.size()) / 4);
+  std::memcpy(frames.data(), pcm.constData(), frames.size() * 4);
+  return frames;
+}
+
+using Heard = Stage;
+
+TEST_F(Heard, IsWhatTheGameCalledFor) {
+  const QByteArray driver = qgetenv("SDL_AUDIODRIVER");
+  const QString file = folder.filePath("heard.raw");
+  qputenv("SDL_AUDIODRIVER", "disk");
+  qputenv("SDL_DISKAUDIOFILE", file.toLocal8Bit());
+  qputenv("SDL_DISKAUDIODELAY", "5"); // ms a buffer of 23, so that no wait is too short
+  LoggedSound logged;
+  robot.reset();
+  window = Main(globals, {draw, logged, store, messages, help}, folder.path());
+  robot.emplace(*window);
+  robot->startBattle(1, draw);
+  Robot::onDialog([&](QDialog &end) {
+    Robot::onDialog([&](QDialog &topTen) {
+      QTest::qWait(300);
+      topTen.close();
+    });
+    Robot::click(Robot::control(end, "cmdJa"));
+  });
+  winAsHuman();
+  window->close();
+  qputenv("SDL_AUDIODRIVER", driver);
+  ASSERT_GT(logged.calls.size(), 45u); // 11 of the set-up, 17 shots with 16 replies, 4 of the end
+
+  QFile raw(file);
+  ASSERT_TRUE(raw.open(QIODevice::ReadOnly));
+  const Frames heard = framesOf(raw.readAll());
+  std::size_t at = 0;
+  const auto skipSilence = [&](const Frames &frames, std::size_t from) {
+    return static_cast<std::size_t>(
+        std::find_if(frames.begin() + static_cast<std::ptrdiff_t>(std::min(from, frames.size())),
+                     frames.end(), [](quint32 frame) { return frame != 0; }) -
+        frames.begin());
+  };
+  for (std::size_t i = 0; i < logged.calls.size(); ++i) {
+    const auto &[klang, waits, time] = logged.calls[i];
+    if (klang.isEmpty())
+      continue;
+    SCOPED_TRACE("call " + std::to_string(i));
+    Frames whole = framesOf(SdlSound::decoded(klang));
+    while (!whole.empty() && whole.back() == 0)
+      whole.pop_back();
+    const std::size_t first = skipSilence(whole, 0);
+    at = skipSilence(heard, at);
+    std::size_t length = 0; // of the part that is heard
+    while (first + length < whole.size() && at + length < heard.size() &&
+           heard[at + length] == whole[first + length])
+      ++length;
+    const bool toEnd = first + length == whole.size();
+    const bool isLast = i + 1 == logged.calls.size();
+    const auto lasts = std::chrono::microseconds(whole.size() * 1'000'000 / 44'100);
+    const bool cut = !waits && !isLast && logged.calls[i + 1].at - time <= lasts;
+    if (cut && toEnd && logged.calls[i + 1].klang == klang)
+      continue; // cut before a frame of it was heard: this is the next one
+    at += length;
+    EXPECT_TRUE(toEnd || cut) << length << " of " << whole.size() << " frames";
+  }
+  EXPECT_EQ(skipSilence(heard, at), heard.size()) << "nothing else is heard";
+}
+
+} // namespace
