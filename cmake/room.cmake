@@ -10,6 +10,18 @@ function(korvel_room name)
   korvel_warnings(${name})
 endfunction()
 
+# korvel_module(NAME SOURCES... USES rooms...)
+#
+# A shared library beside the game, which loads it when it is first needed.
+function(korvel_module name)
+  cmake_parse_arguments(MODULE "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} MODULE ${MODULE_SOURCES})
+  target_link_libraries(${name} PRIVATE ${MODULE_USES})
+  korvel_warnings(${name})
+  set_target_properties(${name} PROPERTIES
+    LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/Korvel CXX_VISIBILITY_PRESET hidden)
+endfunction()
+
 function(korvel_warnings name)
   if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(${name} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror)

@@ -1,8 +1,7 @@
 #include "Main.h"
 
 #include "ClockDraw.h"
-#include "QtHelpViewer.h"
-#include "SdlSound.h"
+#include "late.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -20,10 +19,10 @@ int main(int argc, char **argv) {
   dressApplication();
 
   ClockDraw draw;
-  SdlSound sound;
+  LateSound sound;
   QtSettingsStore settings;
   QtMessageBox messages;
-  QtHelpViewer help;
+  LateHelp help;
   Globals globals;
   const auto window =
       Main(globals, {draw, sound, settings, messages, help}, app.applicationDirPath());

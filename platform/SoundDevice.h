@@ -2,6 +2,9 @@
 
 #include <QByteArray>
 
+#include <chrono>
+#include <thread>
+
 /// A complete WAV file in memory; empty for silence.
 using Klang = QByteArray;
 
@@ -10,6 +13,10 @@ using Klang = QByteArray;
 class SoundDevice {
 public:
   virtual ~SoundDevice() = default;
+
+  /// Gets ready for the first sound. Costs tens of milliseconds, so it is best called when nobody
+  /// waits. False if nothing can be heard now.
+  virtual bool open() { return true; }
 
   /// Cuts the sound that is playing and starts this one; an empty buffer only stops. Returns at
   /// once. What can't be decoded or heard is passed over in silence.
@@ -20,5 +27,5 @@ public:
   virtual bool playToEnd(const Klang &klang) = 0;
 
   /// Blocks the thread for `ms` milliseconds.
-  virtual void sleep(int ms) = 0;
+  virtual void sleep(int ms) { std::this_thread::sleep_for(std::chrono::milliseconds(ms)); }
 };

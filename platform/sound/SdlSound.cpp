@@ -96,8 +96,6 @@ bool SdlSound::playToEnd(const Klang &klang) {
   return true;
 }
 
-void SdlSound::sleep(int ms) { std::this_thread::sleep_for(std::chrono::milliseconds(ms)); }
-
 std::optional<std::chrono::microseconds> SdlSound::play(const Klang &klang) {
   if (klang.isEmpty()) {
     if (device_ != 0)

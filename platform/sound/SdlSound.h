@@ -19,13 +19,12 @@ public:
   SdlSound &operator=(const SdlSound &) = delete;
   ~SdlSound() override;
 
-  /// Opens the device if it is not open. Costs tens of milliseconds, so it is best called when
-  /// nobody waits. After a failure the next attempt is made ten seconds later at the earliest.
-  bool open();
+  /// Opens the device if it is not open. After a failure the next attempt is made ten seconds later
+  /// at the earliest.
+  bool open() override;
 
   void start(const Klang &klang) override { play(klang); }
   bool playToEnd(const Klang &klang) override;
-  void sleep(int ms) override;
 
   /// The sound in the format of the device, 44.1 kHz, stereo, 16 bits; empty if it is no WAV file
   /// that SDL knows.

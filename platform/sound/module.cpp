@@ -1,0 +1,4 @@
+#include "SdlSound.h"
+#include "late.h"
+
+KORVEL_LATE_SERVICE(SoundDevice, SdlSound)
