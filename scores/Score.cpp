@@ -1,5 +1,6 @@
 #include "Score.h"
 
+#include "turns.h"
 #include "windows1252.h"
 
 #include <algorithm>
@@ -30,13 +31,15 @@ struct Close {
 using File = std::unique_ptr<std::FILE, Close>;
 
 /// Opens a plain file, without truncating it; nothing if there is none, or something else.
-File openPlain(const fs::path &path, const char *mode) {
+File openPlain(const fs::path &path, const char *mode, Turn turn) {
   std::error_code error;
   if (!fs::is_regular_file(path, error))
     return nullptr;
   File file(std::fopen(path.string().c_str(), mode));
-  if (file)
+  if (file) {
     std::setvbuf(file.get(), nullptr, _IONBF, 0); // a write of the table is one write
+    takeTurn(*file, turn);
+  }
   return file;
 }
 
@@ -94,7 +97,7 @@ int Score::Row::bombs() const {
 Score::Loaded Score::LoadScore() {
   createIfMissing(file_);
   std::string content(kFile, '\0');
-  const File file = openPlain(file_, "rb");
+  const File file = openPlain(file_, "rb", Turn::reading);
   content.resize(file ? std::fread(content.data(), 1, kFile, file.get()) : 0);
   const bool readable = file && !std::ferror(file.get());
 
@@ -129,7 +132,7 @@ bool Score::SaveScore() const {
         bytes += makeRecord(encoded);
       }
   createIfMissing(file_);
-  File file = openPlain(file_, "r+b");
+  File file = openPlain(file_, "r+b", Turn::writing);
   return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
          std::fclose(file.release()) == 0;
 }
@@ -207,6 +210,6 @@ void Score::copyDamagedFile() const {
     } while (fs::exists(older, error));
     fs::rename(copy, older, error);
   }
-  if (!error)
-    fs::copy_file(file_, copy, error);
+  if (!error && !fs::copy_file(file_, copy, error) && error != std::errc::file_exists)
+    fs::remove(copy, error); // a full disk has taken a part of it
 }

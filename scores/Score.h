@@ -14,6 +14,9 @@
 ///
 ///     size 1                size 2
 ///     1. name, 1. quote, 2. name, 2. quote ... 10. quote, 1. name ...
+///
+/// Games that share the file take turns at it, so that each reads whole tables; the one that saves
+/// last wins.
 class Score {
 public:
   static constexpr int kPlaces = 10;

@@ -24,6 +24,8 @@ xvfb               Xvfb
 xdotool            xdotool
 imagemagick        import
 python3            python3
+clang              clang++
+libclang-rt-14-dev /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a
 "
 
 # is_there PROBE

@@ -7,9 +7,12 @@
 #include <QJsonObject>
 
 #include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <iostream>
 #include <limits>
+#include <sstream>
 #include <string_view>
 
 namespace {
@@ -19,6 +22,9 @@ constexpr const char *kHelp =
     "    prints the top ten as JSON: {\"1\":[[name,quote],...10 rows],\"2\":...,\"3\":...}\n"
     "scores FILE --enter SIZE NAME BOMBS\n"
     "    files a result and prints its place, 1 to 10, or 0\n"
+    "scores FILE --batch\n"
+    "    loads once, then files a result for each line SIZE BOMBS NAME of the standard input\n"
+    "    and prints its place at once\n"
     "scores FILE --reset\n"
     "    resets all lists\n"
     "FILE is treated as the game treats it at its start. Where the game would end with a\n"
@@ -26,6 +32,7 @@ constexpr const char *kHelp =
 
 constexpr int kFailed = 1;
 constexpr int kWrongCall = 2;
+constexpr int kMostBombs = std::numeric_limits<std::int16_t>::max();
 
 int fail(int status, const char *text) {
   std::fprintf(stderr, "%s\n", text);
@@ -53,6 +60,29 @@ void print(const Score &score) {
   std::puts(QJsonDocument(lists).toJson(QJsonDocument::Compact).constData());
 }
 
+/// Files a result and prints its place.
+int enter(Score &score, int size, int bombs, const std::string &name) {
+  const auto place = score.EnterScore(size, name, bombs);
+  if (!place)
+    return fail(kFailed, Score::kSaveFailed);
+  std::printf("%d\n", *place);
+  std::fflush(stdout);
+  return 0;
+}
+
+int enterAll(Score &score) {
+  for (std::string line; std::getline(std::cin, line);) {
+    std::istringstream words(line);
+    std::string size, bombs, name;
+    std::getline(words >> size >> bombs >> std::ws, name);
+    if (number(size, 3) == 0 || number(bombs, kMostBombs) == 0)
+      return fail(kWrongCall, "scores: wrong line, see --help");
+    if (const int status = enter(score, number(size, 3), number(bombs, kMostBombs), name))
+      return status;
+  }
+  return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -61,12 +91,13 @@ int main(int argc, char **argv) {
     std::fputs(kHelp, stdout);
     return 0;
   }
-  const bool enter = argc == 6 && is(2, "--enter");
+  const bool one = argc == 6 && is(2, "--enter");
+  const bool batch = argc == 3 && is(2, "--batch");
   const bool reset = argc == 3 && is(2, "--reset");
-  const int size = enter ? number(argv[3], 3) : 1;
-  const int bombs = enter ? number(argv[5], std::numeric_limits<std::int16_t>::max()) : 1;
+  const int size = one ? number(argv[3], 3) : 1;
+  const int bombs = one ? number(argv[5], kMostBombs) : 1;
   const bool isFile = argc > 1 && std::strncmp(argv[1], "--", 2) != 0;
-  if (!isFile || (argc != 2 && !enter && !reset) || size == 0 || bombs == 0)
+  if (!isFile || (argc != 2 && !one && !batch && !reset) || size == 0 || bombs == 0)
     return fail(kWrongCall, "scores: wrong call, see --help");
 
   Score score(argv[1]);
@@ -74,13 +105,10 @@ int main(int argc, char **argv) {
     std::fprintf(stderr, "%s\n", Score::kDamaged);
   if (reset)
     return score.ResetScore() ? 0 : fail(kFailed, Score::kResetFailed);
-  if (!enter) {
-    print(score);
-    return 0;
-  }
-  const auto place = score.EnterScore(size, argv[4], bombs);
-  if (!place)
-    return fail(kFailed, Score::kSaveFailed);
-  std::printf("%d\n", *place);
+  if (batch)
+    return enterAll(score);
+  if (one)
+    return enter(score, size, bombs, argv[4]);
+  print(score);
   return 0;
 }
