@@ -18,9 +18,14 @@ struct Cell {
 class Layer {
 public:
   Layer() = default;
-  Layer(int columns, int rows)
-      : columns_(columns), rows_(rows),
-        values_(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows)) {}
+  Layer(int columns, int rows) { reset(columns, rows); }
+
+  /// Sets all cells to 0 and, where it has to, the size.
+  void reset(int columns, int rows) {
+    columns_ = columns;
+    rows_ = rows;
+    values_.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), 0);
+  }
 
   int columns() const { return columns_; }
   int rows() const { return rows_; }
@@ -56,8 +61,11 @@ inline constexpr std::uint8_t sunk = 3; ///< the boat of this cell is sunk
 /// the other side (see `Shot`), 3 reserved, neither read nor written.
 class Field {
 public:
-  Field() = default;
-  Field(int columns, int rows) { layers_.fill(Layer(columns, rows)); }
+  /// Sets all cells to 0 and, where it has to, the size.
+  void reset(int columns, int rows) {
+    for (Layer &layer : layers_)
+      layer.reset(columns, rows);
+  }
 
   int columns() const { return layers_[0].columns(); }
   int rows() const { return layers_[0].rows(); }

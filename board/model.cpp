@@ -31,8 +31,8 @@ int clsGrid::FleetCells(int Size) {
 
 void clsGrid::ResetFields() {
   CreateBoats(BootTable);
-  CFeld_ = Field(columns(), rows());
-  PFeld_ = Field(columns(), rows());
+  CFeld_.reset(columns(), rows());
+  PFeld_.reset(columns(), rows());
   Treffer = 0;
   verify();
 }

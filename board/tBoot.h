@@ -2,9 +2,10 @@
 
 #include "Field.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 /// The record of a boat: for each of its points, 1 to its length, the cell and the state.
 class tBoot {
@@ -13,10 +14,12 @@ public:
   static constexpr std::uint8_t hit = 2;
   static constexpr std::uint8_t sunk = 3;
 
-  explicit tBoot(int length)
-      : x_(static_cast<std::size_t>(length)), y_(x_.size()), status_(x_.size()) {}
+  static constexpr int kLongest = 6;
 
-  int length() const { return static_cast<int>(x_.size()); }
+  /// `length` is 1 to `kLongest`.
+  explicit tBoot(int length) : length_(length) {}
+
+  int length() const { return length_; }
 
   /// Column and row of point `j`; 0 while the point is not set.
   std::uint8_t X(int j) const { return x_[index(j)]; }
@@ -37,16 +40,15 @@ public:
   bool isSunk() const { return Status(1) == sunk; }
   /// Whether some point was not hit yet.
   bool isAfloat() const {
-    for (const std::uint8_t status : status_)
-      if (status == intact)
-        return true;
-    return false;
+    return std::find(status_.begin(), status_.begin() + length_, intact) !=
+           status_.begin() + length_;
   }
 
 private:
   static std::size_t index(int j) { return static_cast<std::size_t>(j - 1); }
 
-  std::vector<std::uint8_t> x_;
-  std::vector<std::uint8_t> y_;
-  std::vector<std::uint8_t> status_;
+  int length_;
+  std::array<std::uint8_t, kLongest> x_{};
+  std::array<std::uint8_t, kLongest> y_{};
+  std::array<std::uint8_t, kLongest> status_{};
 };

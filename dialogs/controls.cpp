@@ -141,6 +141,7 @@ Dialog::Dialog(QWidget *main, QSize inner) : QDialog(main, Qt::Dialog | Qt::Fram
 
 void Dialog::fixPlace(QSize inner, QSize mainSize) {
   setFixedSize(inner);
+  setWindowModality(Qt::WindowModal); // the help stays readable beside it
   const QSize spare = mainSize - inner;
   move(parentWidget()->frameGeometry().topLeft() + QPoint(spare.width() / 2, spare.height() / 2));
 }

@@ -13,6 +13,7 @@
 
 #include "clsGrid.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -89,18 +90,20 @@ bool clsGrid::CreateComputerBoat(int BootID) {
 
 // Here a neighbour off the field counts as free.
 bool clsGrid::FindFreeCell(int &X, int &Y) {
-  const auto isFree = [&](int x, int y) { return !CFeld_.contains(x, y) || CFeld_(x, y, 1) == 0; };
+  const Layer &boats = CFeld_.layer(1);
+  const auto touches = [&] {
+    for (int y = std::max(Y - 1, 1); y <= std::min(Y + 1, rows()); ++y)
+      for (int x = std::max(X - 1, 1); x <= std::min(X + 1, columns()); ++x)
+        if (boats(x, y) != 0)
+          return true;
+    return false;
+  };
   for (int i = 0; i < kTries; ++i) {
     do {
       X = draw_.draw(columns());
       Y = draw_.draw(rows());
-    } while (CFeld_(X, Y, 1) != 0);
-
-    bool touches = false;
-    for (int dy = -1; dy <= 1; ++dy)
-      for (int dx = -1; dx <= 1; ++dx)
-        touches = touches || !isFree(X + dx, Y + dy);
-    if (!touches)
+    } while (boats(X, Y) != 0);
+    if (!touches())
       return true;
   }
   return false;
@@ -108,18 +111,21 @@ bool clsGrid::FindFreeCell(int &X, int &Y) {
 
 // Here a cell off the field closes the direction.
 int clsGrid::FindDirection(int Direction, int X, int Y) const {
-  for (int i = 0; i < 4; ++i) {
-    const int trial = (Direction - 1 + i) % 4 + 1;
-    const auto [dx, dy] = step(trial);
-    bool open = true;
-    for (int ahead = 1; ahead <= 2; ++ahead)
-      for (int aside = -1; aside <= 1; ++aside) {
-        const int x = X + ahead * dx + aside * dy;
-        const int y = Y + ahead * dy + aside * dx;
-        open = open && CFeld_.contains(x, y) && CFeld_(x, y, 1) == 0;
-      }
-    if (open)
+  const Layer &boats = CFeld_.layer(1);
+  const auto isOpen = [&](const Cell &way) {
+    // Two opposite corners of the box.
+    const Cell near{X + way.X - way.Y, Y + way.Y - way.X};
+    const Cell far{X + 2 * way.X + way.Y, Y + 2 * way.Y + way.X};
+    if (!boats.contains(near.X, near.Y) || !boats.contains(far.X, far.Y))
+      return false;
+    for (int y = std::min(near.Y, far.Y); y <= std::max(near.Y, far.Y); ++y)
+      for (int x = std::min(near.X, far.X); x <= std::max(near.X, far.X); ++x)
+        if (boats(x, y) != 0)
+          return false;
+    return true;
+  };
+  for (int i = 0; i < 4; ++i)
+    if (const int trial = (Direction - 1 + i) % 4 + 1; isOpen(step(trial)))
       return trial;
-  }
   return 0;
 }

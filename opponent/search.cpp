@@ -21,16 +21,27 @@ namespace {
 constexpr int kBlockColumns = 5;
 constexpr int kBlockRows = 4;
 
-/// The candidates of a block with `n` free neighbours, row by row.
-std::vector<Cell> candidatesOf(int block, const Layer &shots, int n) {
+/// Calls `act` with each candidate of a block that has `n` free neighbours, row by row.
+template <typename Act>
+void forCandidates(int block, const Layer &shots, int n, const Act &act) {
   const int across = shots.columns() / kBlockColumns;
   const int left = (block - 1) % across * kBlockColumns;
   const int top = (block - 1) / across * kBlockRows;
-  std::vector<Cell> cells;
   for (int Y = top + 1; Y <= top + kBlockRows; ++Y)
     for (int X = left + 1; X <= left + kBlockColumns; ++X)
       if (HasFreeNeighbours(shots, X, Y, n))
-        cells.push_back({X, Y});
+        act(Cell{X, Y});
+}
+
+int countCandidates(int block, const Layer &shots, int n) {
+  int count = 0;
+  forCandidates(block, shots, n, [&](const Cell &) { ++count; });
+  return count;
+}
+
+std::vector<Cell> candidatesOf(int block, const Layer &shots, int n) {
+  std::vector<Cell> cells;
+  forCandidates(block, shots, n, [&](const Cell &cell) { cells.push_back(cell); });
   return cells;
 }
 
@@ -50,13 +61,11 @@ std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
     return unknownCells(sea.shots);
 
   const int blocks = sea.shots.columns() / kBlockColumns * (sea.shots.rows() / kBlockRows);
-  std::vector<std::vector<Cell>> BlockCells(static_cast<std::size_t>(blocks));
+  std::vector<BlockRank> BlockRanking;
   for (int n = 4; n >= 1; --n) {
-    std::vector<BlockRank> BlockRanking;
+    BlockRanking.clear();
     for (int block = 1; block <= blocks; ++block) {
-      auto &cells = BlockCells[static_cast<std::size_t>(block - 1)];
-      cells = candidatesOf(block, sea.shots, n);
-      const int count = static_cast<int>(cells.size());
+      const int count = countCandidates(block, sea.shots, n);
       BlockRanking.push_back({count, count > 0 ? block : 0});
     }
     SortBlockRanking(BlockRanking);
@@ -66,7 +75,7 @@ std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
     if (best.count == 0)
       continue;
     const bool takeSecond = second.block != 0 && draw.draw(2) == 2;
-    return BlockCells[static_cast<std::size_t>((takeSecond ? second : best).block - 1)];
+    return candidatesOf((takeSecond ? second : best).block, sea.shots, n);
   }
   return unknownCells(sea.shots);
 }

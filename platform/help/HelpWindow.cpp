@@ -71,11 +71,12 @@ void HelpWindow::buildContents() {
   connect(contents, &QTreeView::clicked, this, showTopic);
   connect(contents, &QTreeView::activated, this, showTopic);
   // The topic of the page that is shown is the one selected.
-  const auto select = [this, contents] {
-    contents->setCurrentIndex(contents->indexOf(pages_.source().adjusted(QUrl::RemoveFragment)));
+  const auto select = [contents](const QUrl &page) {
+    contents->setCurrentIndex(contents->indexOf(page.adjusted(QUrl::RemoveFragment)));
   };
   connect(&pages_, &QTextBrowser::sourceChanged, this, select);
-  connect(book_.contentModel(), &QHelpContentModel::contentsCreated, this, select);
+  connect(book_.contentModel(), &QHelpContentModel::contentsCreated, this,
+          [this, select] { select(pages_.source()); });
   book_.contentModel()->createContents(QString());
 }
 
@@ -102,7 +103,10 @@ void HelpWindow::buildIndex() {
 
   connect(&search_, &QLineEdit::textChanged, this, [this](const QString &text) {
     keywords_.setFilterFixedString(text);
-    index_.setCurrentIndex(keywords_.index(0, 0));
+    // What begins with the text comes before what only contains it.
+    const QModelIndexList begin =
+        keywords_.match(keywords_.index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchStartsWith);
+    index_.setCurrentIndex(begin.isEmpty() ? keywords_.index(0, 0) : begin.first());
   });
   connect(&search_, &QLineEdit::returnPressed, this,
           [this] { showKeyword(index_.currentIndex()); });
@@ -163,6 +167,8 @@ void HelpWindow::open(HelpViewer::Entry entry) {
 void HelpWindow::keyPressEvent(QKeyEvent *event) {
   if (event->key() == Qt::Key_Escape)
     close();
+  else if (event->key() == Qt::Key_Down && search_.hasFocus())
+    index_.setFocus();
   else
     QWidget::keyPressEvent(event);
 }

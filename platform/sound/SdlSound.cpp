@@ -14,6 +14,7 @@ constexpr SDL_AudioFormat kFormat = AUDIO_S16SYS;
 constexpr int kBytesPerSecond = kRate * kChannels * 2;
 constexpr int kBufferFrames = 1024; // 23 ms: so much of a cut sound goes on
 constexpr std::chrono::milliseconds kBufferTime{1000 * kBufferFrames / kRate + 1};
+constexpr qsizetype kMostRemembered = 1'000'000; // bytes: all but the jingle of 19 s
 constexpr std::chrono::seconds kRetry{10};
 constexpr std::chrono::seconds kSilence{30}; // longer than the longest sound, 19 s
 
@@ -105,16 +106,18 @@ std::optional<std::chrono::microseconds> SdlSound::play(const Klang &klang) {
   if (!open())
     return std::nullopt;
   SDL_ClearQueuedAudio(device_);
-  const QByteArray &pcm = remembered(klang);
+  const QByteArray pcm = remembered(klang);
   if (pcm.isEmpty() ||
       SDL_QueueAudio(device_, pcm.constData(), static_cast<Uint32>(pcm.size())) != 0)
     return std::nullopt;
   return std::chrono::microseconds(pcm.size() * 1'000'000 / kBytesPerSecond);
 }
 
-const QByteArray &SdlSound::remembered(const Klang &klang) {
-  auto found = decoded_.find(klang);
-  if (found == decoded_.end())
-    found = decoded_.insert(klang, decoded(klang));
-  return *found;
+QByteArray SdlSound::remembered(const Klang &klang) {
+  if (const auto found = decoded_.constFind(klang); found != decoded_.constEnd())
+    return *found;
+  const QByteArray pcm = decoded(klang);
+  if (pcm.size() <= kMostRemembered)
+    decoded_.insert(klang, pcm);
+  return pcm;
 }

@@ -33,7 +33,7 @@ public:
 private:
   /// Starts a sound and gives its length; nothing if it can't be heard.
   std::optional<std::chrono::microseconds> play(const Klang &klang);
-  const QByteArray &remembered(const Klang &klang);
+  QByteArray remembered(const Klang &klang);
   void close();
 
   std::uint32_t device_ = 0; ///< SDL's number of the open device, 0 for none

@@ -3,8 +3,10 @@
 
 #include "SdlSound.h"
 #include "Stage.h"
+#include "sounds.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>
@@ -42,6 +44,17 @@ Frames framesOf(const QByteArray &pcm) {
   return frames;
 }
 
+/// A letter for each sound.
+QChar nameOf(const Klang &klang) {
+  const std::pair<const char *, char> names[] = {
+      {"boot", 'B'},    {"alle", 'A'},     {"start", 'S'}, {"wasser", 'W'},
+      {"treffer", 'T'}, {"versenkt", 'V'}, {"sieg", 'G'},  {"top10", 'J'}};
+  for (const auto &[file, name] : names)
+    if (loadSound(file) == klang)
+      return name;
+  return '?';
+}
+
 using Heard = Stage;
 
 TEST_F(Heard, IsWhatTheGameCalledFor) {
@@ -65,7 +78,13 @@ TEST_F(Heard, IsWhatTheGameCalledFor) {
   winAsHuman();
   window->close();
   qputenv("SDL_AUDIODRIVER", driver);
-  ASSERT_GT(logged.calls.size(), 45u); // 11 of the set-up, 17 shots with 16 replies, 4 of the end
+  // Eight boats, the last one once more and waiting, the fleet; 17 hits with 16 replies, of which
+  // the last of each boat is its sinking; the win and the top ten.
+  QString names;
+  for (const auto &[klang, waits, time] : logged.calls)
+    names += klang.isEmpty() ? '-' : waits ? nameOf(klang).toLower() : nameOf(klang);
+  EXPECT_TRUE(QRegularExpression("^B{8}bAS([tv][WTV]){16}vGJ--$").match(names).hasMatch())
+      << names.toStdString();
 
   QFile raw(file);
   ASSERT_TRUE(raw.open(QIODevice::ReadOnly));

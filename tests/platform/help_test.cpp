@@ -6,6 +6,7 @@
 #include <QHelpContentWidget>
 #include <QHelpIndexModel>
 #include <QHelpLink>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -40,6 +41,7 @@ TEST_F(Help, OpensOnContentsAndIndexBesideTheText) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return contents.currentIndex().row() == 0; }));
   emit contents.clicked(contents.model()->index(3, 0));
   EXPECT_EQ(page(), "schlacht.html");
+  EXPECT_EQ(contents.currentIndex().row(), 3);
 
   const HelpWindow *window = viewer.window();
   ASSERT_TRUE(viewer.show(KORVEL_BOOK, Entry::index));
@@ -52,11 +54,18 @@ TEST_F(Help, OpensOnContentsAndIndexBesideTheText) {
   ASSERT_EQ(index.model()->rowCount(), 1);
   QTest::keyClick(&search, Qt::Key_Return);
   EXPECT_EQ(page(), "optionen.html#uebernehmen");
+  EXPECT_EQ(contents.currentIndex().row(), 6);
+  EXPECT_FALSE(action("Vor").isEnabled());
+  search.clear();
+  QTest::keyClicks(&search, "tr");
+  QTest::keyClick(&search, Qt::Key_Return);
+  EXPECT_EQ(index.currentIndex().data().toString().left(2), "Tr");
+  action("Zurück").trigger();
   search.clear();
 
-  EXPECT_FALSE(action("Vor").isEnabled());
   action("Zurück").trigger();
   EXPECT_EQ(page(), "schlacht.html");
+  EXPECT_EQ(contents.currentIndex().row(), 3);
   action("Vor").trigger();
   EXPECT_EQ(page(), "optionen.html#uebernehmen");
 
@@ -80,6 +89,7 @@ TEST_F(Help, KeywordsAreInGermanOrderAndLeadSomewhere) {
     text.setSource(QUrl());
     emit index.clicked(index.model()->index(row, 0));
     EXPECT_GT(text.toPlainText().size(), 200) << words.last().toStdString();
+    EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0) << words.last().toStdString();
   }
   EXPECT_LT(words.indexOf("Länge der Boote"), words.indexOf("Leiste"));
   EXPECT_LT(words.indexOf("Übernehmen"), words.indexOf("Zähler"));

@@ -23,6 +23,13 @@ void makeGame(clsGrid &grid, RandomDraw &draw) {
   while (!setRandomFleet(grid, draw));
 }
 
+bool isSunk(const clsGrid &grid) {
+  for (int i = 1; i <= grid.BoatCount(); ++i)
+    if (!grid.PBoote(i).isSunk())
+      return false;
+  return true;
+}
+
 void BM_Draw(benchmark::State &state) {
   ClockDraw draw;
   for (auto _ : state)
@@ -50,7 +57,7 @@ void BM_ComputerMove(benchmark::State &state) {
   draw.draws = 0;
   for (auto _ : state) {
     grid.ComputerShoot();
-    if (winnerOf(grid.BoatTable(2)) == 0)
+    if (!isSunk(grid))
       continue;
     state.PauseTiming();
     const long before = draw.draws;
