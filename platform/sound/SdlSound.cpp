@@ -11,9 +11,12 @@ namespace {
 constexpr int kRate = 44100; // frames per second
 constexpr int kChannels = 2;
 constexpr SDL_AudioFormat kFormat = AUDIO_S16SYS;
-constexpr int kBytesPerSecond = kRate * kChannels * 2;
-constexpr int kBufferFrames = 1024; // 23 ms: so much of a cut sound goes on
-constexpr std::chrono::milliseconds kBufferTime{1000 * kBufferFrames / kRate + 1};
+constexpr int kFrameBytes = kChannels * 2;
+constexpr int kBytesPerSecond = kRate * kFrameBytes;
+constexpr int kBufferFrames = 1024; // 23 ms
+/// From the call for a sound to its being under way: a buffer and the fading of the one before.
+constexpr std::chrono::milliseconds kDelay{1000 * (kBufferFrames + SdlSound::kFadeFrames) / kRate +
+                                           1};
 constexpr qsizetype kMostRemembered = 1'000'000; // bytes: all but the jingle of 19 s
 constexpr std::chrono::seconds kRetry{10};
 constexpr std::chrono::seconds kSilence{30}; // longer than the longest sound, 19 s
@@ -93,23 +96,24 @@ bool SdlSound::playToEnd(const Klang &klang) {
   const auto length = play(klang);
   if (!length)
     return false;
-  std::this_thread::sleep_for(*length + kBufferTime);
+  std::this_thread::sleep_for(*length + kDelay);
   return true;
 }
 
 std::optional<std::chrono::microseconds> SdlSound::play(const Klang &klang) {
   if (klang.isEmpty()) {
     if (device_ != 0)
-      SDL_ClearQueuedAudio(device_);
+      cut();
     return std::chrono::microseconds(0);
   }
   if (!open())
     return std::nullopt;
-  SDL_ClearQueuedAudio(device_);
   const QByteArray pcm = remembered(klang);
+  cut();
   if (pcm.isEmpty() ||
       SDL_QueueAudio(device_, pcm.constData(), static_cast<Uint32>(pcm.size())) != 0)
     return std::nullopt;
+  playing_ = pcm;
   return std::chrono::microseconds(pcm.size() * 1'000'000 / kBytesPerSecond);
 }
 
@@ -120,4 +124,22 @@ QByteArray SdlSound::remembered(const Klang &klang) {
   if (pcm.size() <= kMostRemembered)
     decoded_.insert(klang, pcm);
   return pcm;
+}
+
+// Ends the sound that is playing, with a short fade.
+void SdlSound::cut() {
+  SDL_LockAudioDevice(device_);
+  const auto left = static_cast<qsizetype>(SDL_GetQueuedAudioSize(device_));
+  SDL_ClearQueuedAudio(device_);
+  if (left > 0 && left <= playing_.size()) {
+    QByteArray tail =
+        playing_.last(left).first(std::min<qsizetype>(left, kFadeFrames * kFrameBytes));
+    auto *samples = reinterpret_cast<qint16 *>(tail.data());
+    const qsizetype count = tail.size() / static_cast<qsizetype>(sizeof *samples);
+    for (qsizetype i = 0; i < count; ++i)
+      samples[i] = static_cast<qint16>(samples[i] * (count - 1 - i) / count);
+    SDL_QueueAudio(device_, tail.constData(), static_cast<Uint32>(tail.size()));
+  }
+  playing_.clear();
+  SDL_UnlockAudioDevice(device_);
 }

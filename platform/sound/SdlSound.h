@@ -26,6 +26,9 @@ public:
   void start(const Klang &klang) override { play(klang); }
   bool playToEnd(const Klang &klang) override;
 
+  /// So many frames a cut sound takes to fade out, 5 ms, as a sudden end would click.
+  static constexpr int kFadeFrames = 220;
+
   /// The sound in the format of the device, 44.1 kHz, stereo, 16 bits; empty if it is no WAV file
   /// that SDL knows.
   static QByteArray decoded(const Klang &klang);
@@ -34,10 +37,12 @@ private:
   /// Starts a sound and gives its length; nothing if it can't be heard.
   std::optional<std::chrono::microseconds> play(const Klang &klang);
   QByteArray remembered(const Klang &klang);
+  void cut();
   void close();
 
   std::uint32_t device_ = 0; ///< SDL's number of the open device, 0 for none
   std::optional<std::chrono::steady_clock::time_point> failedAt_;
   QHash<Klang, QByteArray> decoded_;
-  QTimer silence_; ///< runs from the last sound on
+  QByteArray playing_; ///< the sound that was queued last, in the format of the device
+  QTimer silence_;     ///< runs from the last sound on
 };

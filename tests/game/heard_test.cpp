@@ -106,6 +106,18 @@ TEST_F(Heard, IsWhatTheGameCalledFor) {
       whole.pop_back();
     const std::size_t first = skipSilence(whole, 0);
     at = skipSilence(heard, at);
+    // Before it may come the end of one that was cut.
+    const auto begins = [&](std::size_t from) {
+      const std::size_t count =
+          std::min({std::size_t(32), whole.size() - first, heard.size() - from});
+      return std::memcmp(&heard[from], &whole[first], count * sizeof(quint32)) == 0;
+    };
+    std::size_t from = at;
+    for (int faded = 0; faded <= SdlSound::kFadeFrames && from < heard.size() && !begins(from);
+         ++faded)
+      from = skipSilence(heard, from + 1);
+    if (from < heard.size() && begins(from))
+      at = from;
     std::size_t length = 0; // of the part that is heard
     while (first + length < whole.size() && at + length < heard.size() &&
            heard[at + length] == whole[first + length])
@@ -119,7 +131,9 @@ TEST_F(Heard, IsWhatTheGameCalledFor) {
     at += length;
     EXPECT_TRUE(toEnd || cut) << length << " of " << whole.size() << " frames";
   }
-  EXPECT_EQ(skipSilence(heard, at), heard.size()) << "nothing else is heard";
+  const auto rest = heard.begin() + static_cast<std::ptrdiff_t>(at);
+  EXPECT_LE(heard.end() - rest - std::count(rest, heard.end(), 0u), SdlSound::kFadeFrames)
+      << "nothing else is heard";
 }
 
 } // namespace
