@@ -4,6 +4,7 @@
 #include "pictures.h"
 
 #include <QAbstractButton>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -22,6 +23,13 @@ public:
   }
 
 protected:
+  // Qt lets an access key act a tenth of a second later, which could be in the midst of a turn.
+  bool event(QEvent *event) override {
+    if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent *>(event)->isAmbiguous())
+      return QAbstractButton::event(event);
+    click();
+    return true;
+  }
   void paintEvent(QPaintEvent *) override {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -20,7 +20,7 @@ QByteArray takeLine(QByteArrayView &text) {
   qsizetype end = 0;
   while (end < text.size() && text[end] != '\r' && text[end] != '\n')
     ++end;
-  const QByteArray line = text.first(end).toByteArray();
+  QByteArray line = text.first(end).toByteArray();
   const bool isPair = text.sliced(end).startsWith("\r\n");
   text = text.sliced(std::min(text.size(), end + (isPair ? 2 : 1)));
   return line;

@@ -67,6 +67,7 @@ BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
 }
 
 // Past QAbstractButton's handler, which takes the other options of a group out of the tab order.
+// NOLINTNEXTLINE(bugprone-parent-virtual-call)
 void BlueButton::focusInEvent(QFocusEvent *event) { QWidget::focusInEvent(event); }
 
 // Some desktops count Enter as a key that presses a button.

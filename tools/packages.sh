@@ -19,6 +19,7 @@ fonts-liberation   /usr/share/fonts/*/LiberationSerif-Bold.ttf
 check_packages="$build_packages
 qt6-base-private-dev /usr/include/*/qt6/QtGui/*/QtGui/qpa/qwindowsysteminterface.h
 libgtest-dev       /usr/include/gtest/gtest.h
+clang-tidy         clang-tidy
 libbenchmark-dev   /usr/include/benchmark/benchmark.h
 xvfb               Xvfb
 xdotool            xdotool

@@ -160,7 +160,7 @@ void frmScore::showModally() {
   do {
     comesAgain_ = false;
     exec();
-  } while (comesAgain_);
+  } while (comesAgain_ && parentWidget()->isVisible()); // else closed meanwhile
   setPlatz(0);
 }
 

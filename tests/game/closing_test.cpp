@@ -30,34 +30,6 @@ struct Closing : Stage {
   }
 };
 
-// A fleet of size 1, point by point.
-const Cell kFleet[] = {{1, 1}, {2, 1}, {3, 1}, {4, 1}, {1, 3}, {2, 3}, {3, 3}, {5, 3}, {6, 3},
-                       {7, 3}, {1, 5}, {2, 5}, {4, 5}, {5, 5}, {7, 5}, {9, 5}, {9, 8}};
-
-TEST_F(Closing, AtEverySoundOfAGame) {
-  // Eleven sounds in the set-up, then some two a turn: well into the battle.
-  for (int last = 1; last <= 40; ++last) {
-    int calls = 0;
-    open();
-    sound.hook = [&] {
-      if (++calls == last)
-        closeSoon();
-    };
-    newGame(1);
-    for (const Cell &cell : kFleet) {
-      if (!window->grid())
-        break;
-      if (cell == kFleet[std::size(kFleet) - 1])
-        Robot::answer("cmdOK");
-      robot->press(cell);
-    }
-    winAsHuman();
-    QCoreApplication::processEvents();
-    sound.hook = nullptr;
-    expectEnded("sound " + std::to_string(last));
-  }
-}
-
 TEST_F(Closing, WithTheEventsOfEveryHandler) {
   const auto closeAt = [&](const char *name) {
     return [=, this] {
@@ -101,16 +73,18 @@ TEST_F(Closing, WithTheEventsOfEveryHandler) {
 }
 
 TEST_F(Closing, WithADialogOpen) {
+  Cell last;
   const auto closeMain = [&](QDialog &) { window->close(); };
-  const auto setFleet = [&] {
-    for (const Cell &cell : kFleet)
-      robot->press(cell);
-  };
   const std::tuple<const char *, std::function<void()>, std::function<void()>> points[] = {
       {"the new-game dialog", [] {}, [&] { robot->command("keyNew"); }},
       {"the options", [] {}, [&] { robot->command("keyOptionen"); }},
       {"the question of leaving", [] {}, [&] { robot->command("keyEnde"); }},
-      {"the question of the fleet", [&] { newGame(1); }, setFleet},
+      {"the question of the fleet",
+       [&] {
+         newGame(1);
+         last = robot->setFleetButOne(draw);
+       },
+       [&] { robot->press(last); }},
       {"the top ten", [] {}, [&] { robot->command("keyTop10"); }},
       {"the end of a game", [&] { startBattle(1); }, [&] { winAsHuman(); }},
   };
@@ -121,6 +95,19 @@ TEST_F(Closing, WithADialogOpen) {
     act();
     expectEnded(where);
   }
+
+  open();
+  Robot::onDialog([&](QDialog &topTen) {
+    Robot::answer("cmdAbbruch");
+    Robot::click(Robot::control(topTen, "cmdClear"));
+    Robot::onDialog([](QDialog &dialog) {
+      ADD_FAILURE() << "the top ten comes again without its game";
+      dialog.close();
+    });
+    window->close();
+  });
+  robot->command("keyTop10");
+  expectEnded("the hidden top ten behind its question");
 
   open();
   startBattle(1);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QTest>
 
 namespace {
 
@@ -59,6 +60,14 @@ TEST_F(Window, NewGameTakesNameAndSizeAndCancelNothing) {
   EXPECT_EQ(window->Modus(), frmHaupt::Setup);
   EXPECT_EQ(window->grid()->Size(), 3);
   EXPECT_TRUE(window->grid()->PBoote(1).hasPoints()) << "the boat in work is still there";
+}
+
+// A command that waits for a timer could come in the midst of the next turn.
+TEST_F(Window, AccessKeysActAtOnce) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  Robot::answer("cmdOK");
+  QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier);
+  EXPECT_EQ(window->grid(), nullptr);
 }
 
 TEST_F(Window, LeavingAsksFirst) {

@@ -17,7 +17,7 @@ struct SearchTest : BoardTest {
     draw.expect(coin, 2);
     const Cells list = probe.ShotList();
     auto next = list.begin();
-    const std::string drawing = probe.drawing([&](int X, int Y) {
+    std::string drawing = probe.drawing([&](int X, int Y) {
       return next != list.end() && *next == Cell{X, Y} && ++next > list.begin();
     });
     EXPECT_EQ(next, list.end()) << "row by row";

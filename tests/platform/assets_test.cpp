@@ -112,7 +112,8 @@ TEST(Assets, SoundsHaveTheirFormatLengthAndOneLoudness) {
     ASSERT_EQ(sound.channels, c.channels) << SDL_GetError();
     EXPECT_EQ(sound.rate, c.rate);
     EXPECT_NEAR(static_cast<double>(sound.frames()) / sound.rate, c.seconds, 0.02);
-    const std::size_t all = sound.samples.size(), twoMs = all / sound.frames() * c.rate / 500;
+    const std::size_t all = sound.samples.size(),
+                      twoMs = all / sound.frames() * static_cast<std::size_t>(c.rate) / 500;
     EXPECT_LT(decibel(sound.peak(0, all)), -1.5);
     EXPECT_NEAR(sound.loudness(), -15, 0.5);
     // No click: the ends are silent.

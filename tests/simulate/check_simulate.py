@@ -8,7 +8,8 @@ fleets built here, tests the frequencies of all random choices, compares press s
 of the set-up and feeds broken input. The last line is 'N passed, N failed'; the exit
 status is 1 if anything failed.
 
-A frequency fails below a probability of 1e-9. There are at most 28 tests of them, so a
+A frequency fails below a probability of 1e-9. There are at most 28 tests of them, and each
+size counts every cell and every direction, again to 1e-9 for all of a size together, so a
 right program fails in less than one run in a million.
 """
 import argparse
@@ -29,6 +30,7 @@ LENGTHS = {
     3: (6, 5, 5, 4, 4, 3, 3, 2, 2, 2, 1, 1, 1, 1),
 }
 STEPS = ((0, -1), (1, 0), (0, 1), (-1, 0))  # up, right, down, left
+DIRECTIONS = ("up", "right", "down", "left")
 CORNERS = ((1, -1), (1, 1), (-1, 1), (-1, -1))
 BLOCK_WIDTH, BLOCK_HEIGHT = 5, 4
 REPEATED, HIT, SUNK = 1, 2, 3
@@ -56,6 +58,7 @@ class Sea:
         self.boxes = {cell: self.open_boxes(cell) for cell in self.cells}
         self.blocks = self.cut_blocks()
         self.first_cells = None  # of the first boat, worked out once
+        self.firsts, self.steps = Ledger(), Ledger()  # of the computer's boats
 
     def has(self, cell):
         return 1 <= cell[0] <= self.width and 1 <= cell[1] <= self.height
@@ -201,7 +204,9 @@ def tally_computer_fleet(sea, fleet, tally):
     taken = set()
     for boat in fleet:
         if len(boat) <= 2 or not taken:
-            tally["first cell"].append(quantile(first_cells(sea, taken, len(boat)), boat[0]))
+            weights = first_cells(sea, taken, len(boat))
+            tally["first cell"].append(quantile(weights, boat[0]))
+            sea.firsts.add(weights, boat[0])
         taken.add(boat[0])
         for missing, here, there in zip(range(len(boat) - 2, -1, -1), boat, boat[1:]):
             tally_step(sea, taken, here, there, missing, tally)
@@ -224,6 +229,8 @@ def tally_step(sea, taken, here, there, missing, tally):
     weights = {target: share * (outlook(sea, taken | {target}, target, missing) or 0)
                for target, share in step_shares(sea, taken, here).items()}
     tally["step of a walk"].append(quantile(weights, there))
+    direction = {(here[0] + dx, here[1] + dy): name for name, (dx, dy) in zip(DIRECTIONS, STEPS)}
+    sea.steps.add({direction[target]: weight for target, weight in weights.items()}, direction[there])
     tally["step of a walk, likeliest first"].append(quantile(sorted_by(weights, weights), there))
 
 
@@ -419,6 +426,28 @@ def quantile(weights, chosen):
     raise Wrong(f"{chosen} has no chance among {list(weights)}")
 
 
+class Ledger:
+    """How often each option was chosen, and how often it should have been."""
+
+    def __init__(self):
+        self.chosen, self.expected = Counter(), Counter()
+
+    def add(self, weights, chosen):
+        whole = sum(weights.values())
+        self.chosen[chosen] += 1
+        for option, weight in weights.items():
+            self.expected[option] += weight / whole
+
+    def check(self, report, name, options):
+        """Each option as often as it should be, by Chernoff's bound, which holds for small numbers too."""
+        for option in options:
+            found, mean = self.chosen[option], self.expected[option]
+            distance = mean - found + (found * math.log(found / mean) if found else 0)
+            probability = 2 * len(options) * math.exp(-distance)
+            report.check(probability >= LEAST_PROBABILITY, name,
+                         f"{option} {found} times instead of {mean:.1f}, probability {probability:.2g}")
+
+
 def chi_square(counts):
     """The probability of counts this uneven if all are equally likely (Wilson and Hilferty)."""
     mean, freedom = sum(counts) / len(counts), len(counts) - 1
@@ -504,6 +533,8 @@ def check_games(report, program, size, count, tally):
     if count >= 100:
         report.check(winners[HUMAN] and winners[COMPUTER] and codes[REPEATED],
                      f"size {size}: variety of games", f"winners {dict(winners)}, codes {dict(codes)}")
+        sea.firsts.check(report, f"size {size}: each first cell", sea.cells)
+        sea.steps.check(report, f"size {size}: each direction", DIRECTIONS)
     print(f"size {size}: {len(free + given)} games, {winners[HUMAN]} won by the human,"
           f" {winners[COMPUTER]} by the computer")
 
