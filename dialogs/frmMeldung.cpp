@@ -1,6 +1,7 @@
 #include "frmMeldung.h"
 
 frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, "") {
+  setAccessibleName("Frage");
   auto *picHintergrund = makePicture(this, {2, 2, 349, 137}, "meldung-hintergrund");
 
   lblMeldung_.setParent(picHintergrund);

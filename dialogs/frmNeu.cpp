@@ -44,6 +44,7 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, const QString &Comb
   cboName_.setGeometry(56, 32, 161, 24);
   cboName_.setEditable(true);
   cboName_.setInsertPolicy(QComboBox::NoInsert);
+  cboName_.lineEdit()->setAccessibleName(cboName_.accessibleName());
   cboName_.lineEdit()->setContextMenuPolicy(Qt::NoContextMenu); // it would be English
   cboName_.setFont(sansFont(9.75, QFont::Bold));
   cboName_.setToolTip("Gib hier Deinen Namen ein.");

@@ -21,6 +21,7 @@ frmOptions::frmOptions(QWidget *main, Settings &settings, SettingsStore &store)
                            "Soundeffekte während des Spieles ein-/ausschalten.")),
       chkHelp_(makeToggle(picHinten_, "chkHelp", {72, 96, 49, 49}, "", switchIcon("hilfe"))),
       optSize_(picHinten_, {152, 96, 65, 49}, 72, settings.StdSize) {
+  setAccessibleName("Optionen");
   chkSound_->setAccessibleName("Sound");
   chkSound_->setChecked(settings.Sound != 0);
   chkHelp_->setAccessibleName("Hilfe");

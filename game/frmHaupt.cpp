@@ -160,6 +160,8 @@ void frmHaupt::buildCounters() {
       lblBeschriftung->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 
       counters[i].setParent(&picHinten);
+      counters[i].setAccessibleDescription(
+          QString(group == 0 ? "Deine %1" : "%1 des Computers").arg(kClassNames[i]));
       counters[i].setObjectName(QString(group == 0 ? "lblpBoote%1" : "lblcBoote%1").arg(i));
       dress(counters[i], QRect({x, kCounterTop}, kCounter),
             {serifFont(14.25), windowText, kLightBlue, true});

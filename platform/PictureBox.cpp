@@ -1,7 +1,10 @@
 #include "PictureBox.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
+
+#include <utility>
 
 namespace {
 
@@ -9,9 +12,30 @@ constexpr int kBorder = 1;
 
 // In the order of `Picture`.
 constexpr std::array kSpriteNames{"wasser", "boot", "daneben", "treffer", "versenkt"};
+constexpr std::array kSpriteWords{"Wasser", "Boot", "daneben", "Treffer", "versenkt"};
 
 QColor colourOf(Colour colour) {
   return colour == Colour::blue ? QColor(0, 0, 255) : QColor(Qt::black);
+}
+
+/// What a screen reader sees of a field. The description changes with the pointer.
+class AccessibleField : public QAccessibleWidget {
+public:
+  explicit AccessibleField(PictureBox &box)
+      : QAccessibleWidget(&box, QAccessible::Graphic), box_(box) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Description ? box_.seenUnderPointer()
+                                            : QAccessibleWidget::text(kind);
+  }
+
+private:
+  PictureBox &box_;
+};
+
+QAccessibleInterface *accessibleField(const QString &, QObject *object) {
+  auto *box = qobject_cast<PictureBox *>(object);
+  return box ? new AccessibleField(*box) : nullptr;
 }
 
 } // namespace
@@ -39,6 +63,7 @@ const QImage &Sprites::stretched(Picture picture, int width, int height) const {
 PictureBox::PictureBox(const Sprites &sprites, QWidget *parent)
     : QWidget(parent), sprites_(sprites) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+  QAccessible::installFactory(accessibleField); // once, however often it is called
 }
 
 void PictureBox::clear() {
@@ -46,6 +71,7 @@ void PictureBox::clear() {
   content_ = QImage(QSize(innerWidth(), innerHeight()) * ratio, QImage::Format_RGB32);
   content_.setDevicePixelRatio(ratio);
   content_.fill(Qt::white);
+  seen_.clear();
   update();
 }
 
@@ -60,6 +86,7 @@ void PictureBox::line(int x1, int y1, int x2, int y2, Colour colour) {
 
 void PictureBox::filledBox(int x1, int y1, int x2, int y2, Colour colour) {
   fill(QRect(QPoint(x1, y1), QPoint(x2, y2)), colour);
+  see(QRect(QPoint(x1, y1), QPoint(x2, y2)), "Boot im Bau");
 }
 
 void PictureBox::fill(const QRect &area, Colour colour) {
@@ -75,6 +102,46 @@ void PictureBox::sprite(Picture picture, int x, int y, int width, int height) {
   painter.drawImage(QRect(x, y, width, height),
                     sprites_.stretched(picture, width * ratio, height * ratio));
   update(x + kBorder, y + kBorder, width, height);
+  see({x, y, width, height}, kSpriteWords[static_cast<std::size_t>(picture)]);
+}
+
+void PictureBox::see(const QRect &cell, const char *what) {
+  seen_[{cell.x(), cell.y()}] = what;
+  cell_ = cell.size();
+  if (pointer_ && cell.contains(*pointer_))
+    tellReaders();
+}
+
+QString PictureBox::seenUnderPointer() const {
+  if (pointer_)
+    for (const auto &[corner, what] : seen_)
+      if (const QRect cell({corner.first, corner.second}, cell_); cell.contains(*pointer_))
+        return QString("Spalte %1, Zeile %2: %3") // cells are a line apart
+            .arg(cell.x() / (cell.width() + 1) + 1)
+            .arg(cell.y() / (cell.height() + 1) + 1)
+            .arg(what);
+  return {};
+}
+
+void PictureBox::setPointer(std::optional<QPoint> pixel) {
+  pointer_ = pixel;
+  tellReaders();
+}
+
+void PictureBox::tellReaders() {
+  if (const QString now = seenUnderPointer(); std::exchange(told_, now) != now) {
+    QAccessibleEvent change(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&change);
+  }
+}
+
+// Here, as a field that is shut gets no further with the pointer.
+bool PictureBox::event(QEvent *event) {
+  if (event->type() == QEvent::MouseMove)
+    setPointer(static_cast<QMouseEvent *>(event)->pos() - QPoint(kBorder, kBorder));
+  else if (event->type() == QEvent::Leave)
+    setPointer(std::nullopt);
+  return QWidget::event(event);
 }
 
 void PictureBox::mousePressEvent(QMouseEvent *event) {

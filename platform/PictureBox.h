@@ -7,6 +7,8 @@
 #include <QWidget>
 
 #include <array>
+#include <map>
+#include <optional>
 
 /// The five pictures of the cells, as the start-up loads them, and their stretched forms.
 class Sprites {
@@ -47,18 +49,30 @@ public:
 
   const QImage &content() const { return content_; }
 
+  /// The cell under the pointer in words, and what is seen there; empty beside the cells. Screen
+  /// readers get it as the description of the box, and are told when it changes.
+  QString seenUnderPointer() const;
+
 signals:
   /// A press on the box, in pixels of the drawing area; negative or beyond it on the border.
   void pressed(Qt::MouseButton button, int x, int y);
 
 protected:
+  bool event(QEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
 private:
   void fill(const QRect &area, Colour colour);
+  void setPointer(std::optional<QPoint> pixel);
+  void see(const QRect &cell, const char *what);
+  void tellReaders();
 
   const Sprites &sprites_;
   QImage content_; ///< the drawing area
   int drawWidth_ = 1;
+  std::map<std::pair<int, int>, const char *> seen_; ///< in words, by the top left of a cell
+  QSize cell_;
+  std::optional<QPoint> pointer_; ///< in the drawing area
+  QString told_;
 };

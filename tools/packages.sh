@@ -25,6 +25,8 @@ xvfb               Xvfb
 xdotool            xdotool
 imagemagick        import
 python3            python3
+desktop-file-utils desktop-file-validate
+appstream          appstreamcli
 clang              clang++
 libclang-rt-14-dev /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a
 "

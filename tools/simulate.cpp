@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -131,12 +132,12 @@ Fleet cellsOf(const clsGrid &grid, Boat boat) {
   return fleet;
 }
 
-/// Both fleets on the board; the human's is `given` or, without one, random.
-void setFleets(clsGrid &grid, RandomDraw &draw, const Fleet *given) {
+/// Both fleets on the board; the human's is `given` or, without one, random to its taste.
+void setFleets(clsGrid &grid, RandomDraw &draw, const Fleet *given, Taste taste) {
   do {
     if (!grid.CreateComputerField())
       throw Error("the computer's fleet cannot be made");
-  } while (!given && !setRandomFleet(grid, draw));
+  } while (!given && !setRandomFleet(grid, draw, taste));
   for (int i = 1; given && i <= grid.BoatCount(); ++i)
     for (int j = 1; j <= grid.PBoote(i).length(); ++j) {
       const Cell &cell = (*given)[static_cast<std::size_t>(i - 1)][static_cast<std::size_t>(j - 1)];
@@ -155,8 +156,8 @@ Cell shotCell(const Field &before, const Field &after, ShotCode code) {
   throw Error("the computer did not shoot");
 }
 
-std::string play(clsGrid &grid, RandomDraw &draw, const Fleet *given) {
-  setFleets(grid, draw, given);
+std::string play(clsGrid &grid, RandomDraw &draw, const Fleet *given, Taste taste) {
+  setFleets(grid, draw, given, taste);
   const Fleet player = cellsOf(grid, [&](int i) { return grid.PBoote(i); });
   const Fleet computer = cellsOf(grid, [&](int i) { return grid.CBoote(i); });
   std::vector<Press> human;
@@ -180,9 +181,45 @@ std::string play(clsGrid &grid, RandomDraw &draw, const Fleet *given) {
          ",\"reply\":" + toJson(reply) + ",\"winner\":" + std::to_string(winner) + '}';
 }
 
+/// Bombs that sink the fleet that stands, the computer's; it is alone on the sea.
+int bombsOfComputer(clsGrid &grid) {
+  int bombs = 0;
+  do
+    ++bombs;
+  while (grid.ComputerShoot() != ShotCode::sunk || winnerOf(grid.BoatTable(2)) == 0);
+  return bombs;
+}
+
+/// Bombs of a player who takes any cell not shot at, one as readily as another.
+int bombsOfChance(const clsGrid &grid, RandomDraw &draw) {
+  std::vector<Cell> cells;
+  for (int Y = 1; Y <= grid.rows(); ++Y)
+    for (int X = 1; X <= grid.columns(); ++X)
+      cells.push_back({X, Y});
+  int bombs = 0;
+  for (int left = clsGrid::FleetCells(grid.Size()); left > 0; ++bombs) {
+    std::swap(cells[static_cast<std::size_t>(draw.draw(static_cast<int>(cells.size())) - 1)],
+              cells.back());
+    left -= grid.PFeld()(cells.back().X, cells.back().Y, 1) != 0;
+    cells.pop_back();
+  }
+  return bombs;
+}
+
+std::string countBombs(clsGrid &grid, RandomDraw &draw, const Fleet *given, Taste taste) {
+  setFleets(grid, draw, given, taste);
+  const int chance = bombsOfChance(grid, draw);
+  return "{\"size\":" + std::to_string(grid.Size()) +
+         ",\"computer\":" + std::to_string(bombsOfComputer(grid)) +
+         ",\"chance\":" + std::to_string(chance) + '}';
+}
+
 // The two commands.
 
-void simulateGames(int size, int games, const QString &fleetFile) {
+/// One game, or what stands in for it, as a line.
+using Game = std::string (*)(clsGrid &, RandomDraw &, const Fleet *given, Taste);
+
+void simulateGames(Game game, int size, int games, const QString &fleetFile, Taste taste) {
   ClockDraw draw;
   clsGrid grid(draw);
   grid.setSize(size);
@@ -191,8 +228,9 @@ void simulateGames(int size, int games, const QString &fleetFile) {
     for (const Line &line : readLines(fleetFile))
       fleets.push_back(fleetOf(line, grid));
   for (int i = 0; i < games; ++i)
-    print(play(grid, draw,
-               fleets.empty() ? nullptr : &fleets[static_cast<std::size_t>(i) % fleets.size()]));
+    print(game(grid, draw,
+               fleets.empty() ? nullptr : &fleets[static_cast<std::size_t>(i) % fleets.size()],
+               taste));
 }
 
 std::string acceptedPresses(const Line &line) {
@@ -229,12 +267,17 @@ void simulatePresses(const QString &path) {
 // The command line.
 
 constexpr const char *kHelp =
-    "simulate --size S [--games N] [--fleets FILE]\n"
+    "simulate --size S [--games N] [--fleets FILE | --fleet TASTE] [--bombs]\n"
     "    plays N games (1) of size S, 1 to 3, and prints a JSON line for each:\n"
     "    size, player, computer (the fleets, boat by boat, [x,y] point by point),\n"
     "    human, reply (the shots, [x,y,code]; 0 water, 1 repeated, 2 hit, 3 sunk),\n"
     "    winner (1 the human, 2 the computer). The human presses cells at random.\n"
-    "    FILE holds a fleet a line for the human, used in turn; else it is random.\n"
+    "    FILE holds a fleet a line for the human, used in turn; else it is random,\n"
+    "    and TASTE is random for any shape, straight for boats in a line, or rim for\n"
+    "    boats along the rim of the field.\n"
+    "    With --bombs nobody shoots back, and a line holds size, computer, chance: the\n"
+    "    bombs that the computer needs to sink the human's fleet, and those of a player\n"
+    "    who takes any cell that he has not shot at, one as readily as another.\n"
     "simulate --presses FILE\n"
     "    each line of FILE is {\"size\":S,\"presses\":[[x,y],...]}; prints for each\n"
     "    which of these presses, setting a fleet on an empty field, are accepted.\n"
@@ -248,11 +291,20 @@ int wholeNumber(const QString &text, const QString &option, int most) {
   return number;
 }
 
+Taste tasteOf(const QString &text) {
+  const qsizetype i = QStringList{"random", "straight", "rim"}.indexOf(text);
+  if (i < 0)
+    throw Error("--fleet takes random, straight or rim");
+  return static_cast<Taste>(i);
+}
+
 void run(const QStringList &arguments) {
   QCommandLineParser parser;
   parser.addOptions({{"size", "", "S"},
                      {"games", "", "N", "1"},
                      {"fleets", "", "FILE"},
+                     {"fleet", "", "TASTE", "random"},
+                     {"bombs", ""},
                      {"presses", "", "FILE"},
                      {"help", ""}});
   if (!parser.parse(arguments))
@@ -264,16 +316,19 @@ void run(const QStringList &arguments) {
     return;
   }
   if (parser.isSet("presses")) {
-    if (parser.isSet("size") || parser.isSet("games") || parser.isSet("fleets"))
+    if (parser.optionNames().size() > 1)
       throw Error("--presses goes alone");
     simulatePresses(parser.value("presses"));
     return;
   }
   if (!parser.isSet("size"))
     throw Error("--size or --presses is missing, see --help");
-  simulateGames(wholeNumber(parser.value("size"), "--size", kSizes),
+  if (parser.isSet("fleets") && parser.isSet("fleet"))
+    throw Error("--fleets and --fleet exclude each other");
+  simulateGames(parser.isSet("bombs") ? countBombs : play,
+                wholeNumber(parser.value("size"), "--size", kSizes),
                 wholeNumber(parser.value("games"), "--games", std::numeric_limits<int>::max()),
-                parser.value("fleets"));
+                parser.value("fleets"), tasteOf(parser.value("fleet")));
 }
 
 } // namespace

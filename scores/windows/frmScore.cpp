@@ -33,6 +33,7 @@ void addLine(QWidget *parent, const QString &name, const QRect &place) {
 frmScore::frmScore(QWidget *main, const ScoreServices &services)
     : Dialog(main, {300, 381}), services_(services), SndTop10_(loadSound("top10")) {
   services_.player.PlayWav(SndTop10_, true);
+  setAccessibleName("Bestenliste");
   makePicture(this, {0, 0, 300, 382}, "score-hintergrund");
   buildHeadings();
   buildRows();

@@ -12,6 +12,7 @@ constexpr int kBannerTop = 16; // pixels
 
 frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
     : Dialog(main, {388, 228}), services_(services) {
+  setAccessibleName("Spielende");
   picHinten_.setGeometry(2, 2, 385, 225);
   picHinten_.setAlignment(Qt::AlignLeft | Qt::AlignTop);
   picHinten_.setPixmap(loadPicture("sieg-hintergrund"));
@@ -37,6 +38,7 @@ void frmSieg::setBild(int Bild, const QString &Bomben) {
   Bild_ = Bild;
   const QPixmap banner = loadPicture(Bild == 0 ? "banner-sieg" : "banner-verloren");
   const QSize size = banner.deviceIndependentSize().toSize();
+  imgTitle_.setAccessibleName(Bild == 0 ? "Herzlichen Glückwunsch!" : "Du Loser!");
   imgTitle_.setPixmap(banner);
   imgTitle_.setGeometry(QRect({(picHinten_.width() - size.width()) / 2, kBannerTop}, size));
   letEventsRun();

@@ -34,6 +34,8 @@ name() {
   xdotool windowfocus "${window[dialog]}" key "$@"
   press dialog 80 112 108 180 # size 1, OK
   poll 30 is_new_game || fail "expected a new game of size 1"
+  sleep 0.4 # it may take a moment until the new name is painted
+  import -silent -window root "$tmp/screen.ppm"
   convert "$tmp/screen.ppm" -crop "253x19+$((wx[main] + 52))+$((wy[main] + 114))" +repage \
     -format '%#' info:
 }

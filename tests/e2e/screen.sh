@@ -114,7 +114,7 @@ start() {
 mkdir -p "$tmp/config/Korvel"
 mkdir -m 700 "$tmp/run"
 printf '[Options]\nSound=0\nHelp=0\nStdSize=2\n' >"$tmp/config/Korvel/Korvel.conf"
-cp "$1"/* "$tmp" # what it writes beside itself stays here
+cp -r "$1"/* "$tmp" # what it writes beside itself stays here
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$tmp/display" 2>"$tmp/x.log" &
 xvfb=$!
 poll 30 test -s "$tmp/display" || fail "expected an X server"

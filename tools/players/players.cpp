@@ -6,24 +6,39 @@ namespace {
 
 constexpr int kBoatTries = 50; // new beginnings of one boat
 
+bool pleases(Taste taste, const clsGrid &grid, int BootID, const Cell &cell) {
+  if (taste == Taste::rim)
+    return cell.X == 1 || cell.X == grid.columns() || cell.Y == 1 || cell.Y == grid.rows();
+  if (taste == Taste::any)
+    return true;
+  const tBoot &boot = grid.PBoote(BootID);
+  bool inColumn = true;
+  bool inRow = true;
+  for (int j = 1; j <= boot.length() && boot.X(j) != 0; ++j) {
+    inColumn = inColumn && boot.X(j) == cell.X;
+    inRow = inRow && boot.Y(j) == cell.Y;
+  }
+  return inColumn || inRow;
+}
+
 } // namespace
 
-std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &draw) {
+std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &draw, Taste taste) {
   std::vector<Cell> cells;
   for (int Y = 1; Y <= grid.rows(); ++Y)
     for (int X = 1; X <= grid.columns(); ++X)
-      if (grid.CreatePoint(BootID, X, Y))
+      if (grid.CreatePoint(BootID, X, Y) && pleases(taste, grid, BootID, {X, Y}))
         cells.push_back({X, Y});
   if (cells.empty())
     return std::nullopt;
   return cells[static_cast<std::size_t>(draw.draw(static_cast<int>(cells.size())) - 1)];
 }
 
-bool setRandomFleet(clsGrid &grid, RandomDraw &draw) {
+bool setRandomFleet(clsGrid &grid, RandomDraw &draw, Taste taste) {
   BoatInWork boat;
   int tries = 0;
   while (boat.BootID <= grid.BoatCount()) {
-    if (const auto cell = randomPoint(grid, boat.BootID, draw)) {
+    if (const auto cell = randomPoint(grid, boat.BootID, draw, taste)) {
       if (boat.add(grid, cell->X, cell->Y))
         continue;
       boat.next(grid);

@@ -8,13 +8,18 @@
 /// Stand-ins for the human, for bulk games, tests and the demonstration. Unlike the computer they
 /// are handed the whole board.
 
+/// What a player who sets a fleet likes, beyond what the rules ask: nothing, boats in a line, or
+/// all cells on the rim of the field.
+enum class Taste { any, straight, rim };
+
 /// A random cell on which a further point of the boat may stand; nothing if there is none.
-std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &draw);
+std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &draw,
+                                Taste taste = Taste::any);
 
 /// Sets the human's whole fleet at random by the rules of placement. A boat that cannot go on is
 /// deleted and begun anew. False if no fleet came of it after many attempts; the fields must be
 /// made anew then.
-bool setRandomFleet(clsGrid &grid, RandomDraw &draw);
+bool setRandomFleet(clsGrid &grid, RandomDraw &draw, Taste taste = Taste::any);
 
 /// Presses cells at random, now and then one again. In about one game of four the player is lucky
 /// and finds boats often enough to win.

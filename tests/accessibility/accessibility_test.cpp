@@ -1,0 +1,134 @@
+#include "Stage.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QTest>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <cmath>
+#include <private/qguiapplication_p.h>
+
+namespace {
+
+QString read(QWidget &widget, QAccessible::Text kind) {
+  return QAccessible::queryAccessibleInterface(&widget)->text(kind);
+}
+
+double luminance(const QColor &colour) {
+  const auto linear = [](double c) {
+    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
+double contrast(QRgb a, QRgb b) {
+  const double first = luminance(a);
+  const double second = luminance(b);
+  return (std::max(first, second) + .05) / (std::min(first, second) + .05);
+}
+
+/// The least contrast between the ink of a text and what lies behind it, by what changes without
+/// it.
+double contrastOf(QWidget &control) {
+  const QRect place(control.mapTo(control.window(), QPoint()), control.size());
+  const QImage written = control.window()->grab(place).toImage();
+  control.setProperty("text", " "); // not empty, which would move an icon
+  const QImage behind = control.window()->grab(place).toImage();
+  QRgb ink = 0;
+  double most = 0;
+  double least = 21;
+  for (const bool inkIsKnown : {false, true})
+    for (int y = 0; y < written.height(); ++y)
+      for (int x = 0; x < written.width(); ++x) {
+        const QRgb ground = behind.pixel(x, y);
+        const double own = contrast(written.pixel(x, y), ground);
+        if (!inkIsKnown && own > most)
+          most = own, ink = written.pixel(x, y);
+        else if (inkIsKnown && written.pixel(x, y) != ground)
+          least = std::min(least, contrast(ink, ground));
+      }
+  return least;
+}
+
+struct Accessibility : Stage {
+  /// Names, visible focus, contrast of a window and all in it.
+  static void check(QWidget &window) {
+    SCOPED_TRACE(window.metaObject()->className());
+    QApplication::processEvents(); // an earlier window may still be on its way to the front
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_FALSE(read(window, QAccessible::Name).trimmed().isEmpty());
+    for (QWidget *control : window.findChildren<QWidget *>()) {
+      SCOPED_TRACE(control->objectName().toStdString());
+      auto *label = qobject_cast<QLabel *>(control);
+      if (label ? !label->text().isEmpty()
+                : control->inherits("QAbstractButton") || control->inherits("QComboBox") ||
+                      control->inherits("QLineEdit") || control->inherits("PictureBox")) {
+        EXPECT_FALSE(read(*control, QAccessible::Name).isEmpty());
+      }
+      if (control->isVisible() && control->isEnabled() && control->focusPolicy() & Qt::TabFocus) {
+        window.setFocus();
+        const QImage without = window.grab().toImage();
+        control->setFocus();
+        EXPECT_TRUE(window.grab().toImage() != without) << "no mark of the focus";
+      }
+      if (control->isVisible() && !control->property("text").toString().isEmpty()) {
+        EXPECT_GE(contrastOf(*control), 4.5);
+      }
+    }
+  }
+};
+
+TEST_F(Accessibility, EveryControlHasANameAVisibleFocusAndReadableTexts) {
+  check(*window);
+  for (const char *command : {"keyNew", "keyOptionen", "keyTop10", "keyEnde"}) {
+    bool checked = false;
+    Robot::onDialog([&](QDialog &dialog) {
+      check(dialog);
+      checked = true;
+      dialog.close();
+    });
+    robot->command(command);
+    EXPECT_TRUE(checked) << command;
+  }
+  open();
+  frmSieg end(window.get(), {globals.score, *window->grid(), player, {}});
+  end.setBild(0, "12");
+  end.show();
+  check(end);
+}
+
+TEST_F(Accessibility, FieldsTellTheCellUnderThePointerAsItLooks) {
+  startBattle(1);
+  const auto told = [&](const char *name, int X, int Y) {
+    PictureBox &box = field(name);
+    QTest::mouseMove(window->windowHandle(),
+                     box.mapTo(window.get(), QPoint(25 * X - 12, 25 * Y - 12)));
+    return read(box, QAccessible::Description).toStdString();
+  };
+  // Nothing of the hidden fleet, all of one's own.
+  const Cell hidden = window->grid()->CBoote(1).cell(1);
+  const Cell own = window->grid()->PBoote(1).cell(1);
+  const auto at = [](const Cell &cell) {
+    return "Spalte " + std::to_string(cell.X) + ", Zeile " + std::to_string(cell.Y) + ": ";
+  };
+  EXPECT_EQ(told("picpFeld", hidden.X, hidden.Y), at(hidden) + "Wasser");
+  EXPECT_EQ(told("piccFeld", own.X, own.Y), at(own) + "Boot");
+  EXPECT_EQ(read(control("picpFeld"), QAccessible::Description), "") << "left";
+  // A shot tells readers that the cell looks different now.
+  static int changes = 0;
+  QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
+  QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+    changes += event->type() == QAccessible::DescriptionChanged &&
+               event->object()->objectName() == "picpFeld";
+  });
+  told("picpFeld", hidden.X, hidden.Y);
+  robot->press(hidden);
+  EXPECT_EQ(told("picpFeld", hidden.X, hidden.Y), at(hidden) + "Treffer");
+  QAccessible::installUpdateHandler(nullptr);
+  EXPECT_EQ(changes, 2);
+}
+
+} // namespace
