@@ -11,11 +11,8 @@
 /// they are first needed: the libraries behind them are many, and loading those would slow the
 /// start. A module that can't be loaded leaves the game without sound, or without help.
 
-/// What a module exports: the making of its service.
-#define KORVEL_LATE_SERVICE(Interface, Service)                                                    \
-  extern "C" Q_DECL_EXPORT Interface *korvelService() {                                            \
-    return std::make_unique<Service>().release();                                                  \
-  }
+/// What a module exports: `extern "C" Interface *korvelService()`, which makes its service for the
+/// caller to own.
 
 /// The `korvelService` of a module in the folder of the executable; null if it can't be loaded.
 QFunctionPointer serviceOf(const QString &module);

@@ -1,4 +1,7 @@
 #include "QtHelpViewer.h"
-#include "late.h"
 
-KORVEL_LATE_SERVICE(HelpViewer, QtHelpViewer)
+#include <memory>
+
+extern "C" Q_DECL_EXPORT HelpViewer *korvelService() {
+  return std::make_unique<QtHelpViewer>().release();
+}

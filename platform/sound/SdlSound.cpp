@@ -11,8 +11,8 @@ namespace {
 constexpr int kRate = 44100; // frames per second
 constexpr int kChannels = 2;
 constexpr SDL_AudioFormat kFormat = AUDIO_S16SYS;
-constexpr int kFrameBytes = kChannels * 2;
-constexpr int kBytesPerSecond = kRate * kFrameBytes;
+constexpr qsizetype kFrameBytes = kChannels * 2;
+constexpr qsizetype kBytesPerSecond = kRate * kFrameBytes;
 constexpr int kBufferFrames = 1024; // 23 ms
 /// From the call for a sound to its being under way: a buffer and the fading of the one before.
 constexpr std::chrono::milliseconds kDelay{1000 * (kBufferFrames + SdlSound::kFadeFrames) / kRate +
@@ -120,7 +120,7 @@ std::optional<std::chrono::microseconds> SdlSound::play(const Klang &klang) {
 QByteArray SdlSound::remembered(const Klang &klang) {
   if (const auto found = decoded_.constFind(klang); found != decoded_.constEnd())
     return *found;
-  const QByteArray pcm = decoded(klang);
+  QByteArray pcm = decoded(klang);
   if (pcm.size() <= kMostRemembered)
     decoded_.insert(klang, pcm);
   return pcm;

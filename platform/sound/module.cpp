@@ -1,4 +1,7 @@
 #include "SdlSound.h"
-#include "late.h"
 
-KORVEL_LATE_SERVICE(SoundDevice, SdlSound)
+#include <memory>
+
+extern "C" Q_DECL_EXPORT SoundDevice *korvelService() {
+  return std::make_unique<SdlSound>().release();
+}
