@@ -10,9 +10,9 @@
 /// Services in modules of their own, shared libraries beside the executable, which are loaded when
 /// they are first needed: the libraries behind them are many, and loading those would slow the
 /// start. A module that can't be loaded leaves the game without sound, or without help.
-
-/// What a module exports: `extern "C" Interface *korvelService()`, which makes its service for the
-/// caller to own.
+///
+/// A module exports `extern "C" Interface *korvelService()`, which makes its service for the caller
+/// to own.
 
 /// The `korvelService` of a module in the folder of the executable; null if it can't be loaded.
 QFunctionPointer serviceOf(const QString &module);
