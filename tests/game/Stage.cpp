@@ -12,8 +12,6 @@ void RecordingSound::note(const char *what, const Klang &klang) {
       name = known;
   const std::string seen = changes ? changes() : "";
   log.push_back((seen.empty() ? "" : seen + ' ') + what + ' ' + name);
-  if (hook)
-    hook();
 }
 
 Stage::Stage() { open(); }

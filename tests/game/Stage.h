@@ -20,7 +20,6 @@ class RecordingSound : public SoundDevice {
 public:
   Log log;
   std::function<std::string()> changes; ///< the letters
-  std::function<void()> hook;           ///< called in every sound
 
   void start(const Klang &klang) override { note("start", klang); }
   bool playToEnd(const Klang &klang) override {

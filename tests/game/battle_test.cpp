@@ -28,18 +28,6 @@ TEST_F(Battle, TurnPaintsThenWaitsThenReplies) {
   EXPECT_EQ(std::pair(window->BombenZahl(0), window->BombenZahl(1)), std::pair(3, 3));
 }
 
-TEST_F(Battle, RepeatedCellCostsNothingAndGetsNoReply) {
-  startBattle(1);
-  const Cell cell = fresh(0);
-  robot->press(cell);
-  forget();
-  const std::string board = window->grid()->toText();
-  robot->press(cell);
-  EXPECT_EQ(sound.log, Log{"wait Doppelt"});
-  EXPECT_EQ(window->grid()->toText(), board);
-  EXPECT_EQ(std::pair(window->BombenZahl(0), window->BombenZahl(1)), std::pair(1, 1));
-}
-
 TEST_F(Battle, WinningShotGetsNoReply) {
   startBattle(2);
   Robot::answer("cmdNein");
@@ -47,15 +35,6 @@ TEST_F(Battle, WinningShotGetsNoReply) {
   ASSERT_EQ(window->Modus(), frmHaupt::Over);
   EXPECT_EQ(std::pair(window->BombenZahl(0), window->BombenZahl(1)), std::pair(29, 28));
   EXPECT_EQ(Log(sound.log.end() - 2, sound.log.end()), (Log{"LC wait Versenkt", "start Sieg"}));
-
-  const std::string board = window->grid()->toText();
-  sound.log.clear();
-  robot->press(fresh(0));
-  EXPECT_EQ(window->grid()->toText(), board) << "nothing fires after the end";
-  EXPECT_EQ(sound.log, Log{});
-  EXPECT_EQ(counters()[11], "0") << "the counters stay";
-  startBattle(1);
-  EXPECT_EQ(window->BombenZahl(0) + window->BombenZahl(1), 0) << "a new game counts anew";
 }
 
 TEST_F(Battle, ComputerWinsAndShowsWhatWasLeft) {

@@ -58,12 +58,6 @@ struct Honesty : BoardTest {
       hits -= boat.Status(j) == tBoot::hit;
     return hits == 0;
   }
-  Cells cellsOf(int BootID) const {
-    Cells cells;
-    for (int j = 1; j <= grid.PBoote(BootID).length(); ++j)
-      cells.push_back(grid.PBoote(BootID).cell(j));
-    return cells;
-  }
   /// Moves the points that are not hit.
   void move(int BootID, const Cells &to) {
     tBoot &boat = probe.humanBoat(BootID);
@@ -130,9 +124,11 @@ TEST_F(Honesty, CellsNotHitMayLieAnywhere) {
       const auto cell = shot();
       for (int i = 1; i <= grid.BoatCount(); ++i) {
         const tBoot &boat = grid.PBoote(i);
-        const Cells home = cellsOf(i);
         if (!boat.isAfloat())
           continue;
+        Cells home;
+        for (int j = 1; j <= boat.length(); ++j)
+          home.push_back(boat.cell(j));
         for (const Shape &shape : shapesOf(boat.length()))
           for (int Y = 1; Y <= grid.rows(); ++Y)
             for (int X = 1; X <= grid.columns(); ++X) {
