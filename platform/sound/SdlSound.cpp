@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int kRate = 44100; // frames per second
-constexpr int kChannels = 2;
+constexpr qsizetype kChannels = 2;
 constexpr SDL_AudioFormat kFormat = AUDIO_S16SYS;
 constexpr qsizetype kFrameBytes = kChannels * 2;
 constexpr qsizetype kBytesPerSecond = kRate * kFrameBytes;
