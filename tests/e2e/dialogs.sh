@@ -65,7 +65,6 @@ end_game
 start
 poll 30 is_size_3 || fail "expected fields of size 3"
 toggle
-sleep 0.2
 stored $'[Options]\nHelp=1\nSound=0\nStdSize=3' || fail "the options of the second start"
 
 # Names are completed, what a dead key composes too.

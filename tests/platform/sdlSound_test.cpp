@@ -65,6 +65,12 @@ TEST_F(SdlSoundTest, ANewSoundCutsTheOneBeforeAndAnEmptyOneStops) {
   EXPECT_TRUE(hears(kThird));
   sound.start({});
   EXPECT_TRUE(hears([](const QByteArray &file) { return file.endsWith(QByteArray(4096, 0)); }));
+  EXPECT_TRUE(hears([](const QByteArray &file) { // the end falls off, and by steps
+    const auto *samples = reinterpret_cast<const qint16 *>(file.constData());
+    const auto *end = samples + file.size() / 2;
+    const auto *faded = std::find_end(samples, end, &kThird, &kThird + 1) + 1;
+    return faded<end && * faded> 0 && std::is_sorted(faded, end, std::greater<>());
+  }));
 }
 
 TEST_F(SdlSoundTest, BrokenFilesAreNotHeardAndHarmNothing) {
