@@ -5,7 +5,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include <chrono>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -69,6 +72,64 @@ void BM_ComputerMove(benchmark::State &state) {
       benchmark::Counter(static_cast<double>(draw.draws), benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(BM_ComputerMove)->ArgName("size")->DenseRange(1, 3)->Unit(benchmark::kMicrosecond);
+
+/// Stages of a game, as the computer meets them.
+enum Stage { untouched, halfKnown, finishing, onlySingles };
+
+bool isAt(Stage stage, const clsGrid &grid) {
+  int known = 0;
+  for (int Y = 1; Y <= grid.rows(); ++Y)
+    for (int X = 1; X <= grid.columns(); ++X)
+      known += grid.PFeld()(X, Y, 2) != Shot::none;
+  bool longAfloat = false;
+  for (int i = 1; i <= grid.BoatCount(); ++i)
+    longAfloat = longAfloat || (grid.PBoote(i).length() > 1 && !grid.PBoote(i).isSunk());
+  switch (stage) {
+  case untouched:
+    return true;
+  case halfKnown:
+    return grid.Treffer == 0 && longAfloat && 2 * known >= grid.rows() * grid.columns();
+  case finishing:
+    return grid.Treffer != 0;
+  case onlySingles:
+    return grid.Treffer == 0 && !longAfloat && !isSunk(grid);
+  }
+  return false;
+}
+
+// One move each in many positions of a stage, which are played to before the clock runs.
+void BM_MoveAtStage(benchmark::State &state) {
+  constexpr std::size_t kPositions = 50;
+  CountingDraw draw;
+  long draws = 0;
+  for (auto _ : state) {
+    std::vector<std::unique_ptr<clsGrid>> positions;
+    while (positions.size() < kPositions) {
+      auto grid = std::make_unique<clsGrid>(draw);
+      grid->setSize(static_cast<int>(state.range(0)));
+      makeGame(*grid, draw);
+      while (!isAt(static_cast<Stage>(state.range(1)), *grid) && !isSunk(*grid))
+        grid->ComputerShoot();
+      if (!isSunk(*grid))
+        positions.push_back(std::move(grid));
+    }
+    const long before = draw.draws;
+    const auto began = std::chrono::steady_clock::now();
+    for (const auto &grid : positions)
+      grid->ComputerShoot();
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - began;
+    state.SetIterationTime(took.count() / kPositions);
+    draws += draw.draws - before;
+  }
+  state.counters["draws"] = benchmark::Counter(static_cast<double>(draws) / kPositions,
+                                               benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(BM_MoveAtStage)
+    ->ArgNames({"size", "stage"})
+    ->ArgsProduct({{1, 2, 3}, {untouched, halfKnown, finishing, onlySingles}})
+    ->UseManualTime()
+    ->Iterations(100)
+    ->Unit(benchmark::kMicrosecond);
 
 } // namespace
 
