@@ -4,6 +4,7 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 /// A cell of a field: column `X` from the left, row `Y` from the top, both counted from 1.
@@ -37,6 +38,10 @@ public:
   /// The value of a cell on the field.
   std::uint8_t operator()(int X, int Y) const { return values_[index(X, Y)]; }
   std::uint8_t &operator()(int X, int Y) { return values_[index(X, Y)]; }
+  /// The values of a row of the field, from column 1 on.
+  std::span<const std::uint8_t> row(int Y) const {
+    return std::span(values_).subspan(index(1, Y), static_cast<std::size_t>(columns_));
+  }
 
 private:
   std::size_t index(int X, int Y) const {

@@ -2,7 +2,13 @@
 
 #include "Field.h"
 #include "RandomDraw.h"
+#include "tables.h"
 
+#include <array>
+#include <bitset>
+#include <cstddef>
+#include <cstdint>
+#include <span>
 #include <vector>
 
 /// All that the computer may base its choice on: what a player at its place would see, and nothing
@@ -11,7 +17,7 @@ struct KnownSea {
   int Size;
   const Layer &shots;     ///< layer 2 of the human's field; a cell with `Shot::none` is unknown
   std::vector<Cell> hits; ///< hit cells of the boat that is being finished, by point number
-  std::vector<bool> sunk; ///< whether boat i + 1 is sunk
+  std::bitset<boatsOf(BootTable, kSizes)> sunk; ///< whether boat i + 1 is sunk
 };
 
 /// The cells to choose among while no boat is being finished.
@@ -23,19 +29,37 @@ std::vector<Cell> finishingList(const KnownSea &sea);
 
 // Steps of the search, open to tests.
 
-/// The number of candidates of a block, and its number from 1; block 0 has no candidate.
-struct BlockRank {
-  int count = 0;
-  int block = 0;
+/// How many of its four edge neighbours each unknown cell has free. A neighbour is free if it is
+/// unknown or lies off the field. Counted once, for all cells of a row at a time.
+class FreeNeighbours {
+public:
+  /// Columns of a row, column X in bit X.
+  using Row = std::uint32_t;
+
+  explicit FreeNeighbours(const Layer &shots);
+
+  /// The largest number that any unknown cell has; 0 as well if there is none.
+  int most() const;
+  /// The unknown cells of row `Y` of which exactly `n`, 0 to 4, neighbours are free.
+  Row cells(int Y, int n) const {
+    return cells_[static_cast<std::size_t>(n)][static_cast<std::size_t>(Y)];
+  }
+  /// Whether (X, Y) is such a cell.
+  bool HasFreeNeighbours(int X, int Y, int n) const { return (cells(Y, n) >> X & 1) != 0; }
+
+private:
+  std::array<std::array<Row, rowsOf(kSizes) + 1>, 5> cells_{}; ///< by n, then by row
 };
 
-/// True if the cell is unknown and exactly `n` of its four edge neighbours are unknown or off the
-/// field.
-bool HasFreeNeighbours(const Layer &shots, int X, int Y, int n);
+/// The number of candidates of a block, and its number from 1; block 0 has no candidate.
+struct BlockRank {
+  std::uint8_t count = 0;
+  std::uint8_t block = 0;
+};
 
 /// Selection sort, ascending by count. Its exact form breaks the ties: of equal counts the one
 /// found first goes first, and the swap displaces what stood there.
-void SortBlockRanking(std::vector<BlockRank> &Ranking);
+void SortBlockRanking(std::span<BlockRank> Ranking);
 
 /// True if every boat of two or more cells is sunk.
 bool OnlySinglesLeft(const KnownSea &sea);

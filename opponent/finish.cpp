@@ -13,6 +13,7 @@
 
 std::vector<Cell> finishingList(const KnownSea &sea) {
   std::vector<Cell> cells;
+  cells.reserve(4 * sea.hits.size());
   for (const auto &[X, Y] : sea.hits)
     for (const Cell &cell : {Cell{X, Y - 1}, Cell{X + 1, Y}, Cell{X, Y + 1}, Cell{X - 1, Y}})
       if (sea.shots.contains(cell.X, cell.Y) && sea.shots(cell.X, cell.Y) == Shot::none)

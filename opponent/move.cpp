@@ -10,8 +10,8 @@
 
 std::vector<Cell> clsGrid::ShotList() {
   KnownSea sea{Size_, PFeld_.layer(2), {}, {}};
-  for (const tBoot &boot : PBoote_)
-    sea.sunk.push_back(boot.isSunk());
+  for (std::size_t i = 0; i < PBoote_.size(); ++i)
+    sea.sunk[i] = PBoote_[i].isSunk();
   if (Treffer == 0)
     return searchList(sea, draw_);
 

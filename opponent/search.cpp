@@ -11,42 +11,79 @@
 // boats of one cell are left, any unknown cell is as good as any other.
 
 #include "KnownSea.h"
-#include "tables.h"
 
 #include <algorithm>
-#include <array>
+#include <bit>
+#include <cstring>
 
 namespace {
 
+using Row = FreeNeighbours::Row;
+
 constexpr int kBlockColumns = 5;
 constexpr int kBlockRows = 4;
+constexpr int kBlockCells = kBlockColumns * kBlockRows;
+constexpr int kMostBlocks = columnsOf(kSizes) / kBlockColumns * (rowsOf(kSizes) / kBlockRows);
 
-/// Calls `act` with each candidate of a block that has `n` free neighbours, row by row.
-template <typename Act>
-void forCandidates(int block, const Layer &shots, int n, const Act &act) {
+/// The number of set bits of a row of a block.
+constexpr auto kSetBits = [] {
+  std::array<std::uint8_t, 1 << kBlockColumns> bits{};
+  for (unsigned row = 0; row < bits.size(); ++row)
+    bits[row] = static_cast<std::uint8_t>(std::popcount(row));
+  return bits;
+}();
+
+/// Fills in the blocks of a sea, each with its number of cells that have `n` free neighbours.
+std::span<BlockRank> rankBlocks(std::array<BlockRank, kMostBlocks> &ranks, const Layer &shots,
+                                const FreeNeighbours &free, int n) {
+  std::uint8_t block = 0;
+  for (int top = 1; top <= shots.rows(); top += kBlockRows)
+    for (int left = 1; left <= shots.columns(); left += kBlockColumns) {
+      std::uint8_t count = 0;
+      for (int Y = top; Y < top + kBlockRows; ++Y)
+        count += kSetBits[free.cells(Y, n) >> left & (kSetBits.size() - 1)];
+      ++block;
+      ranks[block - 1u] = {count, count > 0 ? block : std::uint8_t{0}};
+    }
+  return std::span(ranks).first(block);
+}
+
+/// The cells of a block that have `n` free neighbours, row by row.
+std::vector<Cell> candidatesOf(int block, const Layer &shots, const FreeNeighbours &free, int n) {
+  std::vector<Cell> cells;
+  cells.reserve(kBlockCells);
   const int across = shots.columns() / kBlockColumns;
   const int left = (block - 1) % across * kBlockColumns;
   const int top = (block - 1) / across * kBlockRows;
   for (int Y = top + 1; Y <= top + kBlockRows; ++Y)
     for (int X = left + 1; X <= left + kBlockColumns; ++X)
-      if (HasFreeNeighbours(shots, X, Y, n))
-        act(Cell{X, Y});
-}
-
-int countCandidates(int block, const Layer &shots, int n) {
-  int count = 0;
-  forCandidates(block, shots, n, [&](const Cell &) { ++count; });
-  return count;
-}
-
-std::vector<Cell> candidatesOf(int block, const Layer &shots, int n) {
-  std::vector<Cell> cells;
-  forCandidates(block, shots, n, [&](const Cell &cell) { cells.push_back(cell); });
+      if (free.HasFreeNeighbours(X, Y, n))
+        cells.push_back({X, Y});
   return cells;
+}
+
+/// The unknown cells of a row; bits beside the field are set as well.
+Row unknownOf(const Layer &shots, int Y) {
+  const std::span<const std::uint8_t> row = shots.row(Y);
+  Row known = 0;
+  std::size_t i = 0;
+  // Eight cells at a time: each byte becomes 0 or 1, and the product brings them together in the
+  // topmost byte, the first cell lowest.
+  static_assert(std::endian::native == std::endian::little && Shot::sunk < 4);
+  for (; i + 8 <= row.size(); i += 8) {
+    std::uint64_t cells;
+    std::memcpy(&cells, &row[i], sizeof cells);
+    cells = (cells | cells >> 1) & 0x0101010101010101u;
+    known |= static_cast<Row>(cells * 0x0102040810204080u >> 56) << i;
+  }
+  for (; i < row.size(); ++i)
+    known |= static_cast<Row>(row[i] != Shot::none) << i;
+  return ~(known << 1);
 }
 
 std::vector<Cell> unknownCells(const Layer &shots) {
   std::vector<Cell> cells;
+  cells.reserve(static_cast<std::size_t>(shots.columns() * shots.rows()));
   for (int Y = 1; Y <= shots.rows(); ++Y)
     for (int X = 1; X <= shots.columns(); ++X)
       if (shots(X, Y) == Shot::none)
@@ -57,48 +94,75 @@ std::vector<Cell> unknownCells(const Layer &shots) {
 } // namespace
 
 std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
-  if (OnlySinglesLeft(sea))
+  const FreeNeighbours free(sea.shots);
+  const int n = free.most();
+  if (n == 0 || OnlySinglesLeft(sea))
     return unknownCells(sea.shots);
 
-  const int blocks = sea.shots.columns() / kBlockColumns * (sea.shots.rows() / kBlockRows);
-  std::vector<BlockRank> BlockRanking;
-  for (int n = 4; n >= 1; --n) {
-    BlockRanking.clear();
-    for (int block = 1; block <= blocks; ++block) {
-      const int count = countCandidates(block, sea.shots, n);
-      BlockRanking.push_back({count, count > 0 ? block : 0});
-    }
-    SortBlockRanking(BlockRanking);
+  std::array<BlockRank, kMostBlocks> ranks;
+  const auto BlockRanking = rankBlocks(ranks, sea.shots, free, n);
+  SortBlockRanking(BlockRanking);
 
-    const BlockRank best = BlockRanking.back();
-    const BlockRank second = BlockRanking[BlockRanking.size() - 2];
-    if (best.count == 0)
-      continue;
-    const bool takeSecond = second.block != 0 && draw.draw(2) == 2;
-    return candidatesOf((takeSecond ? second : best).block, sea.shots, n);
+  const BlockRank best = BlockRanking.back();
+  const BlockRank second = BlockRanking[BlockRanking.size() - 2];
+  const bool takeSecond = second.block != 0 && draw.draw(2) == 2;
+  return candidatesOf((takeSecond ? second : best).block, sea.shots, free, n);
+}
+
+FreeNeighbours::FreeNeighbours(const Layer &shots) {
+  const auto rows = static_cast<std::size_t>(shots.rows());
+  std::array<Row, rowsOf(kSizes) + 2> free;
+  free[0] = free[rows + 1] = ~Row{0};
+  for (std::size_t Y = 1; Y <= rows; ++Y)
+    free[Y] = unknownOf(shots, static_cast<int>(Y));
+
+  const Row field = ((Row{1} << shots.columns()) - 1) << 1;
+  for (std::size_t Y = 1; Y <= rows; ++Y) {
+    // None, one and both of two opposite neighbours.
+    const Row above = free[Y - 1], below = free[Y + 1];
+    const Row left = free[Y] << 1, right = free[Y] >> 1;
+    const std::array<Row, 3> upright{~(above | below), above ^ below, above & below};
+    const std::array<Row, 3> level{~(left | right), left ^ right, left & right};
+    for (std::size_t i = 0; i < 3; ++i)
+      for (std::size_t j = 0; j < 3; ++j)
+        cells_[i + j][Y] |= upright[i] & level[j] & free[Y] & field;
   }
-  return unknownCells(sea.shots);
 }
 
-bool HasFreeNeighbours(const Layer &shots, int X, int Y, int n) {
-  if (shots(X, Y) != Shot::none)
-    return false;
-  const auto isFree = [&](int x, int y) {
-    return !shots.contains(x, y) || shots(x, y) == Shot::none;
-  };
-  return isFree(X, Y - 1) + isFree(X + 1, Y) + isFree(X, Y + 1) + isFree(X - 1, Y) == n;
+int FreeNeighbours::most() const {
+  for (int n = 4; n > 0; --n) {
+    Row any = 0;
+    for (const Row row : cells_[static_cast<std::size_t>(n)])
+      any |= row;
+    if (any != 0)
+      return n;
+  }
+  return 0;
 }
 
-void SortBlockRanking(std::vector<BlockRank> &Ranking) {
-  for (auto i = Ranking.begin(); i != Ranking.end(); ++i)
-    std::iter_swap(i,
-                   std::min_element(i, Ranking.end(), [](const BlockRank &a, const BlockRank &b) {
-                     return a.count < b.count;
-                   }));
+void SortBlockRanking(std::span<BlockRank> Ranking) {
+  // The rows of each count, row i in bit i, so that no step has to look for the least.
+  std::array<std::uint32_t, kBlockCells + 1> rowsOfCount{};
+  for (std::size_t row = 0; row < Ranking.size(); ++row)
+    rowsOfCount[Ranking[row].count] |= 1u << row;
+
+  std::size_t i = 0;
+  for (std::uint32_t &rows : rowsOfCount)
+    for (; rows != 0; ++i) {
+      const auto m = static_cast<std::size_t>(std::countr_zero(rows));
+      rows ^= 1u << m;
+      if (m != i) {
+        rowsOfCount[Ranking[i].count] ^= 1u << i | 1u << m;
+        std::swap(Ranking[i], Ranking[m]);
+      }
+    }
 }
 
 bool OnlySinglesLeft(const KnownSea &sea) {
   // The singles stand behind all longer boats.
-  const auto singles = boatsOfClass(sea.Size, kClasses);
-  return std::all_of(sea.sunk.begin(), sea.sunk.end() - singles, [](bool sunk) { return sunk; });
+  const int longer = boatsOf(BootTable, sea.Size) - boatsOfClass(sea.Size, kClasses);
+  for (int i = 0; i < longer; ++i)
+    if (!sea.sunk[static_cast<std::size_t>(i)])
+      return false;
+  return true;
 }

@@ -84,9 +84,10 @@ public:
     const auto second = searchList(known(), tail);
     if (best == second)
       return std::nullopt;
+    const FreeNeighbours neighbours(shots());
     const std::string free = toJson(shots(), [&](int X, int Y) {
       for (int n = 0; n <= 4; ++n)
-        if (HasFreeNeighbours(shots(), X, Y, n))
+        if (neighbours.HasFreeNeighbours(X, Y, n))
           return static_cast<char>('0' + n);
       return '.';
     });
@@ -110,7 +111,7 @@ private:
   KnownSea known() const {
     KnownSea sea{grid_.Size(), shots(), {}, {}};
     for (int i = 1; i <= grid_.BoatCount(); ++i)
-      sea.sunk.push_back(grid_.PBoote(i).isSunk());
+      sea.sunk[static_cast<std::size_t>(i - 1)] = grid_.PBoote(i).isSunk();
     for (int Y = 1; Y <= shots().rows(); ++Y)
       for (int X = 1; X <= shots().columns(); ++X)
         if (shots()(X, Y) == Shot::hit)

@@ -78,8 +78,8 @@ TEST_F(SearchTest, OnlySinglesLeftMakesAllUnknownCellsAlike) {
 
 TEST(BlockRanking, SelectionSortBreaksTies) {
   struct {
-    std::vector<int> counts;   // of blocks 1, 2, ...
-    std::vector<int> sequence; // of block numbers, 0 without a candidate
+    std::vector<std::uint8_t> counts; // of blocks 1, 2, ...
+    std::vector<int> sequence;        // of block numbers, 0 without a candidate
   } const cases[] = {
       {{20, 20, 20, 20}, {1, 2, 3, 4}}, // nothing moves
       {{0, 0, 0, 0}, {0, 0, 0, 0}},
@@ -92,7 +92,7 @@ TEST(BlockRanking, SelectionSortBreaksTies) {
   for (const auto &c : cases) {
     std::vector<BlockRank> ranking;
     for (std::size_t i = 0; i < c.counts.size(); ++i)
-      ranking.push_back({c.counts[i], c.counts[i] > 0 ? static_cast<int>(i) + 1 : 0});
+      ranking.push_back({c.counts[i], static_cast<std::uint8_t>(c.counts[i] > 0 ? i + 1 : 0)});
     SortBlockRanking(ranking);
     std::vector<int> sequence;
     for (const BlockRank &rank : ranking)
