@@ -83,7 +83,7 @@ Row unknownOf(const Layer &shots, int Y) {
 
 std::vector<Cell> unknownCells(const Layer &shots) {
   std::vector<Cell> cells;
-  cells.reserve(static_cast<std::size_t>(shots.columns() * shots.rows()));
+  cells.reserve(static_cast<std::size_t>(shots.columns()) * static_cast<std::size_t>(shots.rows()));
   for (int Y = 1; Y <= shots.rows(); ++Y)
     for (int X = 1; X <= shots.columns(); ++X)
       if (shots(X, Y) == Shot::none)
