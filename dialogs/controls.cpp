@@ -11,6 +11,7 @@ QFont font(const QStringList &families, double points, QFont::Weight weight) {
   QFont result(families);
   result.setPixelSize(qRound(points * 96 / 72));
   result.setWeight(weight);
+  result.setStyleStrategy(QFont::NoFontMerging);
   return result;
 }
 

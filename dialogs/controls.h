@@ -14,7 +14,9 @@ inline constexpr QColor kDarkRed(128, 0, 0);
 inline constexpr QColor kLightCyan(192, 255, 255);
 
 /// Fonts by their size in points at 96 dpi, set in pixels so that a layout holds on every screen;
-/// each with metric-compatible fallbacks.
+/// each with metric-compatible fallbacks. They borrow no glyph from further fonts: all that the
+/// game can store is of Windows-1252, which each of them holds, and to look for lenders slows the
+/// start.
 QFont serifFont(double points, QFont::Weight weight = QFont::Bold);
 QFont sansFont(double points, QFont::Weight weight = QFont::Normal);
 

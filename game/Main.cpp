@@ -16,7 +16,9 @@ void dressApplication() {
   QPalette palette(QColor(236, 238, 244));
   palette.setColor(QPalette::Highlight, QColor(20, 70, 140));
   QApplication::setPalette(palette);
-  QApplication::setFont(sansFont(9.75)); // tool tips, help
+  QFont font = sansFont(9.75); // tool tips, messages, help
+  font.setStyleStrategy(QFont::PreferDefault);
+  QApplication::setFont(font);
   QApplication::setApplicationName("Korvel");
   QApplication::setApplicationVersion(KORVEL_VERSION);
   QGuiApplication::setDesktopFileName("korvel");

@@ -1,6 +1,7 @@
 #include "Main.h"
 
 #include "ClockDraw.h"
+#include "fonts.h"
 #include "late.h"
 
 #include <QApplication>
@@ -13,6 +14,7 @@ constexpr int kSoundDelay = 300; // ms
 }
 
 int main(int argc, char **argv) {
+  const std::jthread fonts = readFontsAhead();
   // Whole steps keep the grid lines sharp.
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
   const QApplication app(argc, argv);
