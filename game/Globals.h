@@ -39,6 +39,7 @@ struct Globals {
   QString HelpPath;  ///< `Hilfe.qch`, the help file
   Sounds sounds;
   std::array<QPixmap, 2> MuellIcon; ///< the dustbin: 0 grey, 1 red
+  QPixmap background;               ///< of the main window
   Sprites sprites;
   Settings settings;
   Score score{{}}; ///< the top ten

@@ -9,6 +9,8 @@
 #include <QIcon>
 #include <QStyleFactory>
 
+#include <future>
+
 void dressApplication() {
   // One look everywhere, in light colours: the design sets dark texts on light blue, which a dark
   // desktop's palette would make unreadable.
@@ -29,6 +31,10 @@ void dressApplication() {
 }
 
 std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const QString &folder) {
+  // The largest picture is decoded beside the splash.
+  auto background =
+      std::async(std::launch::async,
+                 [path = picturePath("haupt-hintergrund", "jpg")] { return QImage(path); });
   auto splash = std::make_unique<frmStart>(QApplication::applicationVersion());
   splash->show();
   letEventsRun();
@@ -39,6 +45,7 @@ std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const
   globals.sounds = Sounds::load();
   globals.MuellIcon = {loadPicture("muell-grau"), loadPicture("muell-rot")};
   globals.sprites = Sprites::load();
+  globals.background = QPixmap::fromImage(background.get());
   globals.settings = Settings::read(services.store);
   globals.score = Score(std::filesystem::path(globals.ScorePath.toStdU16String()));
   if (Score::isBroken(globals.score.loadAtStart())) {

@@ -115,7 +115,7 @@ void frmHaupt::buildToolbar() {
 void frmHaupt::buildFields() {
   picHinten.setObjectName("picHinten");
   picHinten.setGeometry(QRect({0, kToolbarHeight + kGap}, kBackground));
-  picHinten.setPixmap(loadPicture("haupt-hintergrund", "jpg"));
+  picHinten.setPixmap(globals_.background);
 
   picpFeld.setObjectName("picpFeld");
   picpFeld.setAccessibleName("Linkes Feld");

@@ -2,9 +2,13 @@
 
 #include <QGuiApplication>
 
-QPixmap loadPicture(const QString &name, const QString &suffix) {
+QString picturePath(const QString &name, const QString &suffix) {
   const bool dense = qApp->devicePixelRatio() > 1;
-  QPixmap pixmap(":/pictures/" + name + (dense ? "@2x." : ".") + suffix);
+  return ":/pictures/" + name + (dense ? "@2x." : ".") + suffix;
+}
+
+QPixmap loadPicture(const QString &name) {
+  QPixmap pixmap(picturePath(name));
   Q_ASSERT(!pixmap.isNull());
   return pixmap;
 }
