@@ -6,6 +6,7 @@
 
 frmStart::frmStart(const QString &version) : QWidget(nullptr, Qt::SplashScreen) {
   setFixedSize(307, 165);
+  setAccessibleName("Korvel");
   auto *picHinten = makePicture(this, {1, 3, 305, 161}, "start");
 
   auto *lblVersion = new QLabel("Version " + version, picHinten);

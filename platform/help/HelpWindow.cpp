@@ -40,6 +40,9 @@ HelpWindow::HelpWindow(const QString &file) : book_(folder_.filePath("buch.qhc")
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle("Korvel – Hilfe");
   resize(kWindow);
+  // The style draws no frame that would tell where the keys go.
+  setStyleSheet("QAbstractScrollArea { border: 1px solid palette(mid); margin: 1px; }"
+                "QAbstractScrollArea:focus { border: 2px solid palette(highlight); margin: 0; }");
 
   book_.setReadOnly(false);
   book_.setUsesFilterEngine(true);

@@ -1,4 +1,6 @@
+#include "QtHelpViewer.h"
 #include "Stage.h"
+#include "frmStart.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -53,6 +55,8 @@ double contrastOf(QWidget &control) {
 }
 
 struct Accessibility : Stage {
+  Accessibility() { dressApplication(); }
+
   /// Names, visible focus, contrast of a window and all in it.
   static void check(QWidget &window) {
     SCOPED_TRACE(window.metaObject()->className());
@@ -60,24 +64,32 @@ struct Accessibility : Stage {
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     EXPECT_FALSE(read(window, QAccessible::Name).trimmed().isEmpty());
-    for (QWidget *control : window.findChildren<QWidget *>()) {
-      SCOPED_TRACE(control->objectName().toStdString());
+    QList<QWidget *> controls = window.findChildren<QWidget *>();
+    controls.removeIf(
+        [](QWidget *control) { return !control->isVisible() || !control->isEnabled(); });
+    const auto trace = [](QWidget &control) {
+      return control.metaObject()->className() + (' ' + control.objectName()).toStdString();
+    };
+    for (QWidget *control : controls) {
+      SCOPED_TRACE(trace(*control));
       auto *label = qobject_cast<QLabel *>(control);
       if (label ? !label->text().isEmpty()
                 : control->inherits("QAbstractButton") || control->inherits("QComboBox") ||
                       control->inherits("QLineEdit") || control->inherits("PictureBox")) {
         EXPECT_FALSE(read(*control, QAccessible::Name).isEmpty());
       }
-      if (control->isVisible() && control->isEnabled() && control->focusPolicy() & Qt::TabFocus) {
-        window.setFocus();
-        const QImage without = window.grab().toImage();
-        control->setFocus();
-        EXPECT_TRUE(window.grab().toImage() != without) << "no mark of the focus";
-      }
-      if (control->isVisible() && !control->property("text").toString().isEmpty()) {
+      if (!control->property("text").toString().isEmpty()) {
         EXPECT_GE(contrastOf(*control), 4.5);
       }
     }
+    window.setAttribute(Qt::WA_KeyboardFocusChange); // as behind a Tab
+    for (QWidget *control : controls)
+      if (control->focusPolicy() & Qt::TabFocus) {
+        window.setFocus();
+        const QImage without = window.grab().toImage();
+        control->setFocus();
+        EXPECT_TRUE(window.grab().toImage() != without) << trace(*control) << " marks no focus";
+      }
   }
 };
 
@@ -94,10 +106,18 @@ TEST_F(Accessibility, EveryControlHasANameAVisibleFocusAndReadableTexts) {
     EXPECT_TRUE(checked) << command;
   }
   open();
+  startBattle(1); // the counters hold numbers
+  check(*window);
   frmSieg end(window.get(), {globals.score, *window->grid(), player, {}});
   end.setBild(0, "12");
   end.show();
   check(end);
+  QtHelpViewer viewer;
+  ASSERT_TRUE(viewer.show(KORVEL_BOOK, HelpViewer::Entry::index));
+  check(*viewer.window());
+  frmStart splash("1.0.0");
+  splash.show();
+  check(splash);
 }
 
 TEST_F(Accessibility, FieldsTellTheCellUnderThePointerAsItLooks) {

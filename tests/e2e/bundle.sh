@@ -1,11 +1,14 @@
 #!/usr/bin/env bash
-# The portable bundle, packed, unpacked elsewhere, entered into a menu and played from there.
+# The portable bundle, packed, unpacked elsewhere and entered into a menu.
 #
-# usage: bundle.sh TREE      TREE is the build tree of the preset "release", built
+# usage: bundle.sh TREE FOLDER   TREE is the build tree of the preset "release", built; the unpacked
+#                                bundle is left as FOLDER for battle.sh and dialogs.sh to play
 set -euo pipefail
-[ -f "${1:-}/CPackConfig.cmake" ] || { echo "usage: $0 TREE (a build tree)" >&2; exit 2; }
+[ -f "${1:-}/CPackConfig.cmake" ] && [ -n "${2:-}" ] ||
+  { echo "usage: $0 TREE FOLDER (a build tree, and where the bundle goes)" >&2; exit 2; }
 tests=$(cd "$(dirname "$0")" && pwd)
 tree=$(cd "$1" && pwd)
+folder=$(realpath "$2")
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 
@@ -47,5 +50,6 @@ PYTHON
 ./menue --weg >/dev/null
 [ -z "$(find "$tmp/data" -type f)" ] || fail "left behind: $(find "$tmp/data" -type f)"
 
-# 3. A game.
-"$tests/dialogs.sh" "$PWD"
+# 3. To those who play it.
+rm -rf "$folder"
+mv "$PWD" "$folder"
