@@ -14,7 +14,7 @@
 namespace {
 
 constexpr QSize kWindow(860, 600);    // pixels
-constexpr int kNavigationWidth = 246; // pixels
+constexpr int kNavigationWidth = 250; // pixels
 
 } // namespace
 
