@@ -50,15 +50,18 @@ std::span<BlockRank> rankBlocks(std::array<BlockRank, kMostBlocks> &ranks, const
 
 /// The cells of a block that have `n` free neighbours, row by row.
 std::vector<Cell> candidatesOf(int block, const Layer &shots, const FreeNeighbours &free, int n) {
-  std::vector<Cell> cells;
-  cells.reserve(kBlockCells);
   const int across = shots.columns() / kBlockColumns;
   const int left = (block - 1) % across * kBlockColumns;
   const int top = (block - 1) / across * kBlockRows;
+  // Each cell is put behind the candidates so far, and stays there if it is one itself.
+  std::vector<Cell> cells(kBlockCells);
+  std::size_t count = 0;
   for (int Y = top + 1; Y <= top + kBlockRows; ++Y)
-    for (int X = left + 1; X <= left + kBlockColumns; ++X)
-      if (free.HasFreeNeighbours(X, Y, n))
-        cells.push_back({X, Y});
+    for (int X = left + 1; X <= left + kBlockColumns; ++X) {
+      cells[count] = {X, Y};
+      count += free.HasFreeNeighbours(X, Y, n);
+    }
+  cells.resize(count);
   return cells;
 }
 
@@ -123,9 +126,12 @@ FreeNeighbours::FreeNeighbours(const Layer &shots) {
     const Row left = free[Y] << 1, right = free[Y] >> 1;
     const std::array<Row, 3> upright{~(above | below), above ^ below, above & below};
     const std::array<Row, 3> level{~(left | right), left ^ right, left & right};
+    std::array<Row, 5> both{};
     for (std::size_t i = 0; i < 3; ++i)
       for (std::size_t j = 0; j < 3; ++j)
-        cells_[i + j][Y] |= upright[i] & level[j] & free[Y] & field;
+        both[i + j] |= upright[i] & level[j];
+    for (std::size_t n = 0; n < both.size(); ++n)
+      cells_[n][Y] = both[n] & free[Y] & field;
   }
 }
 
@@ -147,14 +153,11 @@ void SortBlockRanking(std::span<BlockRank> Ranking) {
     rowsOfCount[Ranking[row].count] |= 1u << row;
 
   std::size_t i = 0;
-  for (std::uint32_t &rows : rowsOfCount)
-    for (; rows != 0; ++i) {
+  for (std::uint32_t rows : rowsOfCount)
+    for (; rows != 0; rows &= rows - 1, ++i) {
       const auto m = static_cast<std::size_t>(std::countr_zero(rows));
-      rows ^= 1u << m;
-      if (m != i) {
-        rowsOfCount[Ranking[i].count] ^= 1u << i | 1u << m;
-        std::swap(Ranking[i], Ranking[m]);
-      }
+      rowsOfCount[Ranking[i].count] ^= 1u << i ^ 1u << m;
+      std::swap(Ranking[i], Ranking[m]);
     }
 }
 
