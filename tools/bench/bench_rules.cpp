@@ -33,45 +33,74 @@ bool isSunk(const clsGrid &grid) {
   return true;
 }
 
-void BM_Draw(benchmark::State &state) {
-  ClockDraw draw;
-  for (auto _ : state)
-    benchmark::DoNotOptimize(draw.draw(20));
-}
-BENCHMARK(BM_Draw);
+using Clock = std::chrono::steady_clock;
+
+/// Times what `act` does, and right behind it as many draws as it took; `act` tells how many moves
+/// or fleets it made, for which the times are told each.
+class AgainstItsDraws {
+public:
+  AgainstItsDraws(benchmark::State &state, CountingDraw &draw) : state_(state), draw_(draw) {}
+  ~AgainstItsDraws() {
+    const auto each = [this](double sum) {
+      return benchmark::Counter(sum / static_cast<double>(done_));
+    };
+    state_.counters["draws"] = each(static_cast<double>(draws_));
+    state_.counters["alone"] = each(alone_.count()); // in s
+  }
+
+  template <typename Act>
+  void time(const Act &act) {
+    const long before = draw_.draws;
+    const auto began = Clock::now();
+    const int done = act();
+    const auto ended = Clock::now();
+    const long draws = draw_.draws - before;
+    for (long i = 0; i < draws; ++i)
+      benchmark::DoNotOptimize(draw_.draw(20));
+    alone_ += Clock::now() - ended;
+    draws_ += draws;
+    done_ += done;
+    state_.SetIterationTime(std::chrono::duration<double>(ended - began).count() / done);
+  }
+
+private:
+  benchmark::State &state_;
+  CountingDraw &draw_;
+  std::chrono::duration<double> alone_{};
+  long draws_ = 0;
+  long done_ = 0;
+};
 
 void BM_ComputerFleet(benchmark::State &state) {
+  constexpr int kFleets = 50;
   CountingDraw draw;
   clsGrid grid(draw);
   grid.setSize(static_cast<int>(state.range(0)));
+  AgainstItsDraws clock(state, draw);
   for (auto _ : state)
-    benchmark::DoNotOptimize(grid.CreateComputerField());
-  state.counters["draws"] =
-      benchmark::Counter(static_cast<double>(draw.draws), benchmark::Counter::kAvgIterations);
+    clock.time([&] {
+      for (int i = 0; i < kFleets; ++i)
+        benchmark::DoNotOptimize(grid.CreateComputerField());
+      return kFleets;
+    });
 }
-BENCHMARK(BM_ComputerFleet)->ArgName("size")->DenseRange(1, 3)->Unit(benchmark::kMicrosecond);
 
 // Whole games of the computer alone, per move: all stages in the shares in which they occur.
 void BM_ComputerMove(benchmark::State &state) {
   CountingDraw draw;
   clsGrid grid(draw);
   grid.setSize(static_cast<int>(state.range(0)));
-  makeGame(grid, draw);
-  draw.draws = 0;
+  AgainstItsDraws clock(state, draw);
   for (auto _ : state) {
-    grid.ComputerShoot();
-    if (!isSunk(grid))
-      continue;
-    state.PauseTiming();
-    const long before = draw.draws;
     makeGame(grid, draw);
-    draw.draws = before;
-    state.ResumeTiming();
+    clock.time([&] {
+      int moves = 0;
+      for (; !isSunk(grid); ++moves)
+        grid.ComputerShoot();
+      return moves;
+    });
   }
-  state.counters["draws"] =
-      benchmark::Counter(static_cast<double>(draw.draws), benchmark::Counter::kAvgIterations);
 }
-BENCHMARK(BM_ComputerMove)->ArgName("size")->DenseRange(1, 3)->Unit(benchmark::kMicrosecond);
 
 /// Stages of a game, as the computer meets them.
 enum Stage { untouched, halfKnown, finishing, onlySingles };
@@ -99,9 +128,9 @@ bool isAt(Stage stage, const clsGrid &grid) {
 
 // One move each in many positions of a stage, which are played to before the clock runs.
 void BM_MoveAtStage(benchmark::State &state) {
-  constexpr std::size_t kPositions = 50;
+  constexpr int kPositions = 50;
   CountingDraw draw;
-  long draws = 0;
+  AgainstItsDraws clock(state, draw);
   for (auto _ : state) {
     std::vector<std::unique_ptr<clsGrid>> positions;
     while (positions.size() < kPositions) {
@@ -113,23 +142,24 @@ void BM_MoveAtStage(benchmark::State &state) {
       if (!isSunk(*grid))
         positions.push_back(std::move(grid));
     }
-    const long before = draw.draws;
-    const auto began = std::chrono::steady_clock::now();
-    for (const auto &grid : positions)
-      grid->ComputerShoot();
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - began;
-    state.SetIterationTime(took.count() / kPositions);
-    draws += draw.draws - before;
+    clock.time([&] {
+      for (const auto &grid : positions)
+        grid->ComputerShoot();
+      return kPositions;
+    });
   }
-  state.counters["draws"] = benchmark::Counter(static_cast<double>(draws) / kPositions,
-                                               benchmark::Counter::kAvgIterations);
 }
+
+void measure(benchmark::internal::Benchmark *benchmark) {
+  benchmark->UseManualTime()->Unit(benchmark::kMicrosecond);
+}
+BENCHMARK(BM_ComputerFleet)->ArgName("size")->DenseRange(1, 3)->Iterations(500)->Apply(measure);
+BENCHMARK(BM_ComputerMove)->ArgName("size")->DenseRange(1, 3)->Iterations(500)->Apply(measure);
 BENCHMARK(BM_MoveAtStage)
     ->ArgNames({"size", "stage"})
     ->ArgsProduct({{1, 2, 3}, {untouched, halfKnown, finishing, onlySingles}})
-    ->UseManualTime()
-    ->Iterations(100)
-    ->Unit(benchmark::kMicrosecond);
+    ->Iterations(50)
+    ->Apply(measure);
 
 } // namespace
 
