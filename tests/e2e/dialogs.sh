@@ -33,18 +33,17 @@ name() {
   await_window dialog 284x203 '^Neues Spiel$'
   xdotool windowfocus "${window[dialog]}" key "$@"
   press dialog 80 112 108 180 # size 1, OK
-  poll 30 is_new_game || fail "expected a new game of size 1"
-  sleep 0.4 # it may take a moment until the new name is painted
-  import -silent -window root "$tmp/screen.ppm"
+  poll 30 is_begun || fail "expected that OK closes the dialog"
+  press main 65 146 # comes behind the new name
+  poll 30 has_boat || fail "expected a new game of size 1"
   convert "$tmp/screen.ppm" -crop "253x19+$((wx[main] + 52))+$((wy[main] + 114))" +repage \
     -format '%#' info:
 }
-# The dustbin stands at 273, 338 while a fleet is set; the dialog is gone.
-is_new_game() {
-  ! xdotool search --onlyvisible --name '^Neues Spiel$' >/dev/null 2>&1 || return 1
+is_begun() { ! xdotool search --onlyvisible --name '^Neues Spiel$' >/dev/null 2>&1; }
+has_boat() { # its first point is blue
   import -silent -window root "$tmp/screen.ppm" &&
-    (($(convert "$tmp/screen.ppm" -crop "32x32+$((wx[main] + 273))+$((wy[main] + 338))" +repage \
-      -format '%k' info:) > 40))
+    [ "$(convert "$tmp/screen.ppm" -format "%[pixel:p{$((wx[main] + 65)),$((wy[main] + 146))}]" \
+      info:)" = "srgb(0,0,255)" ]
 }
 
 end_game() {

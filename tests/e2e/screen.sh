@@ -62,6 +62,7 @@ await_end() {
   status=$?
   game=''
   ((status == 0)) || fail "exit status $status after $1; expected 0"
+  [ ! -s "$tmp/game.log" ] || fail "the game has complained"
 }
 has_ended() { ! kill -0 "$game" 2>/dev/null; }
 
