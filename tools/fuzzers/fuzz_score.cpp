@@ -77,14 +77,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t leng
   // A result stands in its list, below what is better and nothing else, and in the file; or nothing
   // has happened.
   const auto place = score.EnterScore(size, name, bombs);
-  const auto list = rows.begin() + (size - 1) * Score::kPlaces;
+  const auto list = rows.begin() + std::ptrdiff_t{Score::kPlaces} * (size - 1);
   const auto above = std::find_if_not(list, list + Score::kPlaces, [&](const Score::Row &row) {
     return row.quote == "?" ? bombs > 1000 : row.bombs() < bombs;
   });
   PROMISE(!place || *place == (above == list + Score::kPlaces ? 0 : above - list + 1));
   if (place && *place > 0) {
     rows.insert(above, {fromWindows1252(toWindows1252(name)), std::to_string(bombs)});
-    rows.erase(rows.begin() + size * Score::kPlaces);
+    rows.erase(rows.begin() + std::ptrdiff_t{Score::kPlaces} * size);
   }
   PROMISE(place || toWindows1252(name).size() > 28);
   PROMISE(!place || table(score) == rows);
