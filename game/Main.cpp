@@ -17,6 +17,7 @@ void dressApplication() {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QPalette palette(QColor(236, 238, 244));
   palette.setColor(QPalette::Highlight, QColor(20, 70, 140));
+  palette.setColor(QPalette::PlaceholderText, QColor(75, 80, 95));
   QApplication::setPalette(palette);
   QFont font = sansFont(9.75); // tool tips, messages, help
   font.setStyleStrategy(QFont::PreferDefault);
@@ -46,6 +47,7 @@ std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const
   globals.MuellIcon = {loadPicture("muell-grau"), loadPicture("muell-rot")};
   globals.sprites = Sprites::load();
   globals.background = QPixmap::fromImage(background.get());
+  Q_ASSERT(!globals.background.isNull());
   globals.settings = Settings::read(services.store);
   globals.score = Score(std::filesystem::path(globals.ScorePath.toStdU16String()));
   if (Score::isBroken(globals.score.loadAtStart())) {

@@ -14,10 +14,10 @@ constexpr int kSoundDelay = 300; // ms
 }
 
 int main(int argc, char **argv) {
-  const std::future<void> fonts = readFontsAhead();
   // Whole steps keep the grid lines sharp.
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
   const QApplication app(argc, argv);
+  const std::future<void> fonts = readFontsAhead();
   dressApplication();
 
   ClockDraw draw;

@@ -3,10 +3,10 @@
 // Boats bend, so a line of hits proves nothing about where the boat goes on. Every move takes all
 // hit cells of the boat afresh and lists all their unknown neighbours, repeats included:
 //
-//     . a .        two hits round a corner: the cell x
+//     . a .        three hits round a corner: the cell x
 //     b * x        stands twice, the others once
-//     . c * d
-//     . . e .
+//     c * * d
+//     . e f .
 
 #include "KnownSea.h"
 #include "clsGrid.h"

@@ -5,8 +5,10 @@
 #include <QHelpIndexModel>
 #include <QHelpLink>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QSplitter>
 #include <QStyle>
+#include <QTabBar>
 #include <QToolBar>
 
 #include <algorithm>
@@ -22,7 +24,7 @@ bool Keywords::lessThan(const QModelIndex &left, const QModelIndex &right) const
   return collator_.compare(left.data().toString(), right.data().toString()) < 0;
 }
 
-Pages::Pages(QWidget *parent, const QHelpEngineCore &book) : QTextBrowser(parent), book_(book) {
+Pages::Pages(const QHelpEngineCore &book) : book_(book) {
   setContextMenuPolicy(Qt::NoContextMenu); // it would be English
 }
 
@@ -39,7 +41,7 @@ QVariant Pages::loadResource(int type, const QUrl &url) {
 HelpWindow::HelpWindow(const QString &file) : book_(folder_.filePath("buch.qhc")) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle("Korvel – Hilfe");
-  resize(kWindow);
+  resize(kWindow.boundedTo(screen()->availableSize()));
   // The style draws no frame that would tell where the keys go.
   setStyleSheet("QAbstractScrollArea { border: 1px solid palette(mid); margin: 1px; }"
                 "QAbstractScrollArea:focus { border: 2px solid palette(highlight); margin: 0; }");
@@ -58,6 +60,11 @@ HelpWindow::HelpWindow(const QString &file) : book_(folder_.filePath("buch.qhc")
   buildContents();
   buildIndex();
   buildText();
+  tabs_.setAccessibleName("Inhalt und Index");
+  connect(&tabs_, &QTabWidget::currentChanged, this, [this] {
+    if (!tabs_.tabBar()->hasFocus()) // where the arrow keys go through the tabs
+      enterTab();
+  });
   pages_.setSource(home_);
 }
 
@@ -120,6 +127,7 @@ void HelpWindow::buildIndex() {
 void HelpWindow::buildText() {
   auto *bar = new QToolBar;
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  pages_.setAccessibleName("Text der Hilfe");
   const auto addAction = [&](QStyle::StandardPixmap icon, const QString &text,
                              const QKeySequence &keys, void (QTextBrowser::*go)(),
                              void (QTextBrowser::*available)(bool)) {
@@ -156,12 +164,15 @@ void HelpWindow::showKeyword(const QModelIndex &keyword) {
 }
 
 void HelpWindow::open(HelpViewer::Entry entry) {
-  const bool isIndex = entry == HelpViewer::Entry::index;
-  tabs_.setCurrentIndex(isIndex ? 1 : 0);
+  tabs_.setCurrentIndex(entry == HelpViewer::Entry::index ? 1 : 0);
   show();
   raise();
   activateWindow();
-  if (isIndex)
+  enterTab();
+}
+
+void HelpWindow::enterTab() {
+  if (tabs_.currentIndex() == 1)
     search_.setFocus();
   else
     book_.contentWidget()->setFocus();

@@ -31,7 +31,7 @@ class Pages : public QTextBrowser {
   Q_OBJECT
 
 public:
-  Pages(QWidget *parent, const QHelpEngineCore &book);
+  explicit Pages(const QHelpEngineCore &book);
   QVariant loadResource(int type, const QUrl &url) override;
 
 private:
@@ -60,6 +60,8 @@ private:
   void buildContents();
   void buildIndex();
   void buildText();
+  /// The keys go to what the tab shows.
+  void enterTab();
   void showKeyword(const QModelIndex &keyword);
 
   QTemporaryDir folder_; ///< of the collection that Qt Help wants to have
@@ -69,5 +71,5 @@ private:
   QLineEdit search_;
   QListView index_;
   Keywords keywords_;
-  Pages pages_{nullptr, book_};
+  Pages pages_{book_};
 };

@@ -2,10 +2,10 @@
 # The portable bundle, packed, unpacked elsewhere and entered into a menu.
 #
 # usage: bundle.sh TREE FOLDER   TREE is the build tree of the preset "release", built; the unpacked
-#                                bundle is left as FOLDER for battle.sh and dialogs.sh to play
+#                                bundle is left as FOLDER, a new one, for battle.sh and dialogs.sh
 set -euo pipefail
-[ -f "${1:-}/CPackConfig.cmake" ] && [ -n "${2:-}" ] ||
-  { echo "usage: $0 TREE FOLDER (a build tree, and where the bundle goes)" >&2; exit 2; }
+[ -f "${1:-}/CPackConfig.cmake" ] && [ -n "${2:-}" ] && [ ! -e "$2" ] ||
+  { echo "usage: $0 TREE FOLDER (a build tree, and a folder to be made)" >&2; exit 2; }
 tests=$(cd "$(dirname "$0")" && pwd)
 tree=$(cd "$1" && pwd)
 folder=$(realpath "$2")
@@ -51,5 +51,4 @@ PYTHON
 [ -z "$(find "$tmp/data" -type f)" ] || fail "left behind: $(find "$tmp/data" -type f)"
 
 # 3. To those who play it.
-rm -rf "$folder"
 mv "$PWD" "$folder"

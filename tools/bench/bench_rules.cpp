@@ -45,7 +45,8 @@ public:
       return benchmark::Counter(sum / static_cast<double>(done_));
     };
     state_.counters["draws"] = each(static_cast<double>(draws_));
-    state_.counters["alone"] = each(alone_.count()); // in s
+    state_.counters["took"] = each(took_.count()); // in s
+    state_.counters["alone"] = each(alone_.count());
   }
 
   template <typename Act>
@@ -54,6 +55,7 @@ public:
     const auto began = Clock::now();
     const int done = act();
     const auto ended = Clock::now();
+    took_ += ended - began;
     const long draws = draw_.draws - before;
     for (long i = 0; i < draws; ++i)
       benchmark::DoNotOptimize(draw_.draw(20));
@@ -66,6 +68,7 @@ public:
 private:
   benchmark::State &state_;
   CountingDraw &draw_;
+  std::chrono::duration<double> took_{};
   std::chrono::duration<double> alone_{};
   long draws_ = 0;
   long done_ = 0;
