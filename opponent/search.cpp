@@ -25,26 +25,25 @@ constexpr int kBlockRows = 4;
 constexpr int kBlockCells = kBlockColumns * kBlockRows;
 constexpr int kMostBlocks = columnsOf(kSizes) / kBlockColumns * (rowsOf(kSizes) / kBlockRows);
 
-/// The number of set bits of a row of a block.
-constexpr auto kSetBits = [] {
-  std::array<std::uint8_t, 1 << kBlockColumns> bits{};
-  for (unsigned row = 0; row < bits.size(); ++row)
-    bits[row] = static_cast<std::uint8_t>(std::popcount(row));
-  return bits;
-}();
-
 /// Fills in the blocks of a sea, each with its number of cells that have `n` free neighbours.
 std::span<BlockRank> rankBlocks(std::array<BlockRank, kMostBlocks> &ranks, const Layer &shots,
                                 const FreeNeighbours &free, int n) {
+  // The numbers of the blocks beside each other grow in the bits of their columns, where 20 has
+  // room.
+  constexpr Row kFirstColumns = 0b00001'00001'00001'00001;
+  static_assert(kBlockCells < 1 << kBlockColumns);
   std::uint8_t block = 0;
-  for (int top = 1; top <= shots.rows(); top += kBlockRows)
-    for (int left = 1; left <= shots.columns(); left += kBlockColumns) {
-      std::uint8_t count = 0;
-      for (int Y = top; Y < top + kBlockRows; ++Y)
-        count += kSetBits[free.cells(Y, n) >> left & (kSetBits.size() - 1)];
+  for (int top = 1; top <= shots.rows(); top += kBlockRows) {
+    Row counts = 0;
+    for (int Y = top; Y < top + kBlockRows; ++Y)
+      for (int X = 1; X <= kBlockColumns; ++X)
+        counts += free.cells(Y, n) >> X & kFirstColumns;
+    for (int left = 0; left < shots.columns(); left += kBlockColumns) {
+      const auto count = static_cast<std::uint8_t>(counts >> left & ((1 << kBlockColumns) - 1));
       ++block;
       ranks[block - 1u] = {count, count > 0 ? block : std::uint8_t{0}};
     }
+  }
   return std::span(ranks).first(block);
 }
 
@@ -67,20 +66,18 @@ std::vector<Cell> candidatesOf(int block, const Layer &shots, const FreeNeighbou
 
 /// The unknown cells of a row; bits beside the field are set as well.
 Row unknownOf(const Layer &shots, int Y) {
+  // Eight cells at a time, the last eight overlapping: each byte becomes 0 or 1, and the product
+  // brings them together in the topmost byte, the first cell lowest.
+  static_assert(std::endian::native == std::endian::little && Shot::sunk < 4);
   const std::span<const std::uint8_t> row = shots.row(Y);
   Row known = 0;
-  std::size_t i = 0;
-  // Eight cells at a time: each byte becomes 0 or 1, and the product brings them together in the
-  // topmost byte, the first cell lowest.
-  static_assert(std::endian::native == std::endian::little && Shot::sunk < 4);
-  for (; i + 8 <= row.size(); i += 8) {
+  for (std::size_t i = 0; i < row.size(); i += 8) {
+    const std::size_t first = std::min(i, row.size() - 8);
     std::uint64_t cells;
-    std::memcpy(&cells, &row[i], sizeof cells);
+    std::memcpy(&cells, &row[first], sizeof cells);
     cells = (cells | cells >> 1) & 0x0101010101010101u;
-    known |= static_cast<Row>(cells * 0x0102040810204080u >> 56) << i;
+    known |= static_cast<Row>(cells * 0x0102040810204080u >> 56) << first;
   }
-  for (; i < row.size(); ++i)
-    known |= static_cast<Row>(row[i] != Shot::none) << i;
   return ~(known << 1);
 }
 
