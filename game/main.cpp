@@ -1,7 +1,6 @@
 #include "Main.h"
 
 #include "ClockDraw.h"
-#include "fonts.h"
 #include "late.h"
 
 #include <QApplication>
@@ -17,7 +16,6 @@ int main(int argc, char **argv) {
   // Whole steps keep the grid lines sharp.
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
   const QApplication app(argc, argv);
-  const std::future<void> fonts = readFontsAhead();
   dressApplication();
 
   ClockDraw draw;
