@@ -1,4 +1,5 @@
 #include "PictureBox.h"
+#include "pictures.h"
 
 #include <QPainter>
 #include <QTest>
@@ -130,5 +131,11 @@ INSTANTIATE_TEST_SUITE_P(Sizes, PictureBoxTest,
                          testing::Values(std::array{253, 203, 24}, std::array{288, 231, 18},
                                          std::array{323, 259, 15}),
                          [](const auto &tested) { return std::to_string(tested.param[0]); });
+
+TEST(Pictures, AreSharpOnDenseScreens) {
+  const QPixmap picture = loadPicture("tb-neu");
+  EXPECT_EQ(picture.devicePixelRatio(), qGuiApp->devicePixelRatio());
+  EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(49, 40));
+}
 
 } // namespace
