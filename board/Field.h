@@ -1,10 +1,11 @@
 #pragma once
 
+#include "tables.h"
+
 #include <array>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
 
 /// A cell of a field: column `X` from the left, row `Y` from the top, both counted from 1.
@@ -15,17 +16,22 @@ struct Cell {
   bool operator==(const Cell &) const = default;
 };
 
-/// One byte for each cell of a field, 0 at first.
+/// One byte for each cell of a field, 0 at first. Which cells hold 0 is kept in bits as well, so
+/// that a rule can look at a whole row of cells at once.
 class Layer {
 public:
+  /// Cells of a row, column X in bit X.
+  using Row = std::uint32_t;
+
   Layer() = default;
   Layer(int columns, int rows) { reset(columns, rows); }
 
-  /// Sets all cells to 0 and, where it has to, the size.
+  /// Sets all cells to 0 and, where it has to, the size, which is at most the largest of the game.
   void reset(int columns, int rows) {
     columns_ = columns;
     rows_ = rows;
     values_.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), 0);
+    zeros_.fill(((Row{1} << columns) - 1) << 1);
   }
 
   int columns() const { return columns_; }
@@ -37,11 +43,14 @@ public:
 
   /// The value of a cell on the field.
   std::uint8_t operator()(int X, int Y) const { return values_[index(X, Y)]; }
-  std::uint8_t &operator()(int X, int Y) { return values_[index(X, Y)]; }
-  /// The values of a row of the field, from column 1 on.
-  std::span<const std::uint8_t> row(int Y) const {
-    return std::span(values_).subspan(index(1, Y), static_cast<std::size_t>(columns_));
+  void set(int X, int Y, std::uint8_t value) {
+    values_[index(X, Y)] = value;
+    Row &row = zeros_[static_cast<std::size_t>(Y)];
+    row = value == 0 ? row | Row{1} << X : row & ~(Row{1} << X);
   }
+
+  /// The cells of a row of the field that hold 0.
+  Row zeros(int Y) const { return zeros_[static_cast<std::size_t>(Y)]; }
 
 private:
   std::size_t index(int X, int Y) const {
@@ -52,6 +61,7 @@ private:
   int columns_ = 0;
   int rows_ = 0;
   std::vector<std::uint8_t> values_;
+  std::array<Row, rowsOf(kSizes) + 1> zeros_{}; ///< by row, from 1 on
 };
 
 /// What layer 2 of a field holds of a cell.
@@ -78,7 +88,7 @@ public:
 
   /// Layer `k`, 1 to 3, of a cell on the field.
   std::uint8_t operator()(int X, int Y, int k) const { return layer(k)(X, Y); }
-  std::uint8_t &operator()(int X, int Y, int k) { return layers_[index(k)](X, Y); }
+  void set(int X, int Y, int k, std::uint8_t value) { layers_[index(k)].set(X, Y, value); }
   const Layer &layer(int k) const { return layers_[index(k)]; }
 
 private:

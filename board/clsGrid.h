@@ -120,6 +120,8 @@ public:
 
   /// Lays the computer's fleet at random on emptied fields. False if a hundred attempts failed.
   bool CreateComputerField();
+  /// Whether every boat of the human of two or more cells is sunk.
+  bool OnlySinglesLeft() const;
   /// The computer's whole turn. Never gives `repeated`. Some boat of the human must be afloat.
   ShotCode ComputerShoot();
 

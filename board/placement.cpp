@@ -62,7 +62,7 @@ bool clsGrid::CheckBlock(int X, int Y) const {
 
 bool clsGrid::SetPoint(int BootID, int n, int X, int Y) {
   tBoot &boot = PBoote_[boat(BootID)];
-  PFeld_(X, Y, 1) = static_cast<std::uint8_t>(BootID);
+  PFeld_.set(X, Y, 1, static_cast<std::uint8_t>(BootID));
   boot.setPoint(n, X, Y);
 
   const int p = CellSize() + 1;
@@ -84,7 +84,7 @@ void clsGrid::DeleteBoat(int BootID) {
     if (boot.X(j) == 0)
       continue;
     show(Picture::picWasser, *PicPlayer_, boot.X(j), boot.Y(j));
-    PFeld_(boot.X(j), boot.Y(j), 1) = 0;
+    PFeld_.set(boot.X(j), boot.Y(j), 1, 0);
     boot.setStatus(j, tBoot::intact);
     boot.setPoint(j, 0, 0);
   }

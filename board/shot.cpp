@@ -13,7 +13,7 @@ ShotCode clsGrid::Shoot(int X, int Y) {
   const int b = CFeld_(X, Y, 1);
   if (b == 0) {
     show(Picture::picDaneben, *PicPlayer_, X, Y);
-    CFeld_(X, Y, 2) = Shot::miss;
+    CFeld_.set(X, Y, 2, Shot::miss);
     verify();
     return ShotCode::water;
   }
@@ -31,7 +31,7 @@ bool clsGrid::hit(Field &field, tBoot &boot, Surface &surface, int X, int Y) {
   for (int j = 1; j <= boot.length(); ++j)
     if (boot.cell(j) == Cell{X, Y})
       boot.setStatus(j, tBoot::hit);
-  field(X, Y, 2) = Shot::hit;
+  field.set(X, Y, 2, Shot::hit);
   if (!boot.isAfloat())
     return false;
   show(Picture::picTreffer, surface, X, Y);
@@ -42,6 +42,6 @@ void clsGrid::sink(Field &field, tBoot &boot, Surface &surface) {
   for (int j = 1; j <= boot.length(); ++j) {
     show(Picture::picVersenkt, surface, boot.X(j), boot.Y(j));
     boot.setStatus(j, tBoot::sunk);
-    field(boot.X(j), boot.Y(j), 2) = Shot::sunk;
+    field.set(boot.X(j), boot.Y(j), 2, Shot::sunk);
   }
 }

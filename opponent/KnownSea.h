@@ -5,7 +5,6 @@
 #include "tables.h"
 
 #include <array>
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -14,10 +13,9 @@
 /// All that the computer may base its choice on: what a player at its place would see, and nothing
 /// of a boat that it did not hit. The boats' layer and records can't be reached from here.
 struct KnownSea {
-  int Size;
   const Layer &shots;     ///< layer 2 of the human's field; a cell with `Shot::none` is unknown
   std::vector<Cell> hits; ///< hit cells of the boat that is being finished, by point number
-  std::bitset<boatsOf(BootTable, kSizes)> sunk; ///< whether boat i + 1 is sunk
+  bool OnlySinglesLeft;   ///< whether every boat of two or more cells is sunk
 };
 
 /// The cells to choose among while no boat is being finished.
@@ -33,8 +31,7 @@ std::vector<Cell> finishingList(const KnownSea &sea);
 /// unknown or lies off the field. Counted once, for all cells of a row at a time.
 class FreeNeighbours {
 public:
-  /// Columns of a row, column X in bit X.
-  using Row = std::uint32_t;
+  using Row = Layer::Row;
 
   explicit FreeNeighbours(const Layer &shots);
 
@@ -60,6 +57,3 @@ struct BlockRank {
 /// Selection sort, ascending by count. Its exact form breaks the ties: of equal counts the one
 /// found first goes first, and the swap displaces what stood there.
 void SortBlockRanking(std::span<BlockRank> Ranking);
-
-/// True if every boat of two or more cells is sunk.
-bool OnlySinglesLeft(const KnownSea &sea);

@@ -29,5 +29,5 @@ void clsGrid::MarkAroundBoat(int BootID) {
     for (int dy = -1; dy <= 1; ++dy)
       for (int dx = -1; dx <= 1; ++dx)
         if ((dx != 0 || dy != 0) && PFeld_.contains(boot.X(j) + dx, boot.Y(j) + dy))
-          PFeld_(boot.X(j) + dx, boot.Y(j) + dy, 2) = Shot::miss;
+          PFeld_.set(boot.X(j) + dx, boot.Y(j) + dy, 2, Shot::miss);
 }

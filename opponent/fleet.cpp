@@ -57,11 +57,11 @@ bool clsGrid::PlaceComputerBoats() {
 bool clsGrid::CreateComputerBoat(int BootID) {
   tBoot &boot = CBoote_[boat(BootID)];
   const auto set = [&](int i, int X, int Y) {
-    CFeld_(X, Y, 1) = static_cast<std::uint8_t>(BootID);
+    CFeld_.set(X, Y, 1, static_cast<std::uint8_t>(BootID));
     boot.setPoint(i, X, Y);
   };
   const auto takeOff = [&](int i) {
-    CFeld_(boot.X(i), boot.Y(i), 1) = 0;
+    CFeld_.set(boot.X(i), boot.Y(i), 1, 0);
     boot.setPoint(i, 0, 0);
   };
 

@@ -6,12 +6,11 @@
 #include "KnownSea.h"
 #include "clsGrid.h"
 
+#include <algorithm>
 #include <utility>
 
 std::vector<Cell> clsGrid::ShotList() {
-  KnownSea sea{Size_, PFeld_.layer(2), {}, {}};
-  for (std::size_t i = 0; i < PBoote_.size(); ++i)
-    sea.sunk[i] = PBoote_[i].isSunk();
+  KnownSea sea{PFeld_.layer(2), {}, OnlySinglesLeft()};
   if (Treffer == 0)
     return searchList(sea, draw_);
 
@@ -20,6 +19,11 @@ std::vector<Cell> clsGrid::ShotList() {
     if (boot.Status(j) == tBoot::hit)
       sea.hits.push_back(boot.cell(j));
   return finishingList(sea);
+}
+
+bool clsGrid::OnlySinglesLeft() const {
+  return std::all_of(PBoote_.begin(), PBoote_.end(),
+                     [](const tBoot &boot) { return boot.length() == 1 || boot.isSunk(); });
 }
 
 ShotCode clsGrid::ComputerShoot() {
@@ -38,7 +42,7 @@ ShotCode clsGrid::ComputerShoot() {
   const int b = PFeld_(X, Y, 1);
   if (b == 0) {
     show(Picture::picDaneben, *PicComputer_, X, Y);
-    PFeld_(X, Y, 2) = Shot::miss;
+    PFeld_.set(X, Y, 2, Shot::miss);
     verify();
     return ShotCode::water;
   }

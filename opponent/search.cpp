@@ -14,11 +14,10 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 
 namespace {
 
-using Row = FreeNeighbours::Row;
+using Row = Layer::Row;
 
 constexpr int kBlockColumns = 5;
 constexpr int kBlockRows = 4;
@@ -29,15 +28,19 @@ constexpr int kMostBlocks = columnsOf(kSizes) / kBlockColumns * (rowsOf(kSizes) 
 std::span<BlockRank> rankBlocks(std::array<BlockRank, kMostBlocks> &ranks, const Layer &shots,
                                 const FreeNeighbours &free, int n) {
   // The numbers of the blocks beside each other grow in the bits of their columns, where 20 has
-  // room.
-  constexpr Row kFirstColumns = 0b00001'00001'00001'00001;
-  static_assert(kBlockCells < 1 << kBlockColumns);
+  // room. Two rows are looked at in one.
+  using Rows = std::uint64_t;
+  constexpr Rows kFirstColumns = 0b00001'00001'00001'00001 * ((Rows{1} << 32) + 1);
+  static_assert(kBlockCells < 1 << kBlockColumns && kBlockRows % 2 == 0);
   std::uint8_t block = 0;
   for (int top = 1; top <= shots.rows(); top += kBlockRows) {
-    Row counts = 0;
-    for (int Y = top; Y < top + kBlockRows; ++Y)
+    Rows counts = 0;
+    for (int Y = top; Y < top + kBlockRows; Y += 2) {
+      const Rows rows = free.cells(Y, n) | Rows{free.cells(Y + 1, n)} << 32;
       for (int X = 1; X <= kBlockColumns; ++X)
-        counts += free.cells(Y, n) >> X & kFirstColumns;
+        counts += rows >> X & kFirstColumns;
+    }
+    counts += counts >> 32;
     for (int left = 0; left < shots.columns(); left += kBlockColumns) {
       const auto count = static_cast<std::uint8_t>(counts >> left & ((1 << kBlockColumns) - 1));
       ++block;
@@ -64,23 +67,6 @@ std::vector<Cell> candidatesOf(int block, const Layer &shots, const FreeNeighbou
   return cells;
 }
 
-/// The unknown cells of a row; bits beside the field are set as well.
-Row unknownOf(const Layer &shots, int Y) {
-  // Eight cells at a time, the last eight overlapping: each byte becomes 0 or 1, and the product
-  // brings them together in the topmost byte, the first cell lowest.
-  static_assert(std::endian::native == std::endian::little && Shot::sunk < 4);
-  const std::span<const std::uint8_t> row = shots.row(Y);
-  Row known = 0;
-  for (std::size_t i = 0; i < row.size(); i += 8) {
-    const std::size_t first = std::min(i, row.size() - 8);
-    std::uint64_t cells;
-    std::memcpy(&cells, &row[first], sizeof cells);
-    cells = (cells | cells >> 1) & 0x0101010101010101u;
-    known |= static_cast<Row>(cells * 0x0102040810204080u >> 56) << first;
-  }
-  return ~(known << 1);
-}
-
 std::vector<Cell> unknownCells(const Layer &shots) {
   std::vector<Cell> cells;
   cells.reserve(static_cast<std::size_t>(shots.columns()) * static_cast<std::size_t>(shots.rows()));
@@ -96,7 +82,7 @@ std::vector<Cell> unknownCells(const Layer &shots) {
 std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
   const FreeNeighbours free(sea.shots);
   const int n = free.most();
-  if (n == 0 || OnlySinglesLeft(sea))
+  if (n == 0 || sea.OnlySinglesLeft)
     return unknownCells(sea.shots);
 
   std::array<BlockRank, kMostBlocks> ranks;
@@ -110,13 +96,14 @@ std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
 }
 
 FreeNeighbours::FreeNeighbours(const Layer &shots) {
+  // The unknown cells, with what lies off the field.
   const auto rows = static_cast<std::size_t>(shots.rows());
+  const Row field = ((Row{1} << shots.columns()) - 1) << 1;
   std::array<Row, rowsOf(kSizes) + 2> free;
   free[0] = free[rows + 1] = ~Row{0};
   for (std::size_t Y = 1; Y <= rows; ++Y)
-    free[Y] = unknownOf(shots, static_cast<int>(Y));
+    free[Y] = shots.zeros(static_cast<int>(Y)) | ~field;
 
-  const Row field = ((Row{1} << shots.columns()) - 1) << 1;
   for (std::size_t Y = 1; Y <= rows; ++Y) {
     // None, one and both of two opposite neighbours.
     const Row above = free[Y - 1], below = free[Y + 1];
@@ -156,13 +143,4 @@ void SortBlockRanking(std::span<BlockRank> Ranking) {
       rowsOfCount[Ranking[i].count] ^= 1u << i ^ 1u << m;
       std::swap(Ranking[i], Ranking[m]);
     }
-}
-
-bool OnlySinglesLeft(const KnownSea &sea) {
-  // The singles stand behind all longer boats.
-  const int longer = boatsOf(BootTable, sea.Size) - boatsOfClass(sea.Size, kClasses);
-  for (int i = 0; i < longer; ++i)
-    if (!sea.sunk[static_cast<std::size_t>(i)])
-      return false;
-  return true;
 }

@@ -72,11 +72,11 @@ public:
     for (int Y = 1; isWater && Y <= before.rows(); ++Y)
       for (int X = 1; X <= before.columns(); ++X)
         if (before(X, Y) != shots()(X, Y))
-          shotAt_(X, Y) = 1;
+          shotAt_.set(X, Y, 1);
   }
 
   std::optional<std::string> search() const {
-    if (grid_.Treffer != 0 || OnlySinglesLeft(known()))
+    if (grid_.Treffer != 0 || grid_.OnlySinglesLeft())
       return std::nullopt;
     Coin head(1);
     Coin tail(2);
@@ -109,9 +109,7 @@ private:
   const Layer &shots() const { return grid_.PFeld().layer(2); }
 
   KnownSea known() const {
-    KnownSea sea{grid_.Size(), shots(), {}, {}};
-    for (int i = 1; i <= grid_.BoatCount(); ++i)
-      sea.sunk[static_cast<std::size_t>(i - 1)] = grid_.PBoote(i).isSunk();
+    KnownSea sea{shots(), {}, grid_.OnlySinglesLeft()};
     for (int Y = 1; Y <= shots().rows(); ++Y)
       for (int X = 1; X <= shots().columns(); ++X)
         if (shots()(X, Y) == Shot::hit)

@@ -7,7 +7,7 @@ using FleetTest = BoardTest;
 TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   // Boat 1 begins at (1, 4), whose only way on is (2, 4), and from there is none but back.
   probe.forEach("...G/GGGG/...G/...G/...G/GGGG/...G/...G",
-                [&](int X, int Y, char cell) { probe.CFeld()(X, Y, 1) = cell == 'G' ? 7 : 0; });
+                [&](int X, int Y, char cell) { probe.CFeld().set(X, Y, 1, cell == 'G' ? 7 : 0); });
   draw.expect(1, 10);
   draw.expect(4, 8);
   EXPECT_FALSE(probe.CreateComputerBoat(1));
@@ -19,7 +19,7 @@ TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
 TEST_F(FleetTest, FullSeaFailsInBoundedTime) {
   for (int Y = 1; Y <= 8; ++Y)
     for (int X = Y % 2 + 1; X <= 10; X += 2)
-      probe.CFeld()(X, Y, 1) = 8;
+      probe.CFeld().set(X, Y, 1, 8);
   EXPECT_FALSE(probe.PlaceComputerBoats());
   EXPECT_LT(draw.draws, 100 * 100 * 8) << "a hundred tries of a hundred cells each, half taken";
   EXPECT_TRUE(grid.CreateComputerField()) << "a new attempt begins with an empty sea";

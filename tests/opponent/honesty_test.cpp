@@ -63,7 +63,7 @@ struct Honesty : BoardTest {
     tBoot &boat = probe.humanBoat(BootID);
     for (int j = 1; j <= boat.length(); ++j)
       if (boat.Status(j) == tBoot::intact)
-        probe.PFeld()(boat.X(j), boat.Y(j), 1) = 0;
+        probe.PFeld().set(boat.X(j), boat.Y(j), 1, 0);
     int j = 0;
     for (const auto &[X, Y] : to) {
       if (grid.PFeld()(X, Y, 2) == Shot::hit)
@@ -72,7 +72,7 @@ struct Honesty : BoardTest {
         ++j;
       while (boat.Status(j) == tBoot::hit);
       boat.setPoint(j, X, Y);
-      probe.PFeld()(X, Y, 1) = static_cast<std::uint8_t>(BootID);
+      probe.PFeld().set(X, Y, 1, static_cast<std::uint8_t>(BootID));
     }
   }
   /// The candidates, repeats included, with either side of the coin.

@@ -9,7 +9,7 @@ struct SearchTest : BoardTest {
   /// Cells with `o` are known to be water.
   void know(const char *sea) {
     probe.forEach(sea, [&](int X, int Y, char c) {
-      probe.PFeld()(X, Y, 2) = c == 'o' ? Shot::miss : Shot::none;
+      probe.PFeld().set(X, Y, 2, c == 'o' ? Shot::miss : Shot::none);
     });
   }
   /// The list, drawn, with the coin on 1 (best) or 2 (second).
@@ -49,7 +49,8 @@ TEST_F(SearchTest, FewerNeighboursCountOnlyWhenNoCellHasMore) {
   know("oo.ooo...o/o...oooooo/oooooooooo/oooooooooo/oooooooooo/ooooooooo./ooooooooo./oooooooooo");
   EXPECT_EQ(listed(1), ".......+");
   EXPECT_EQ(listed(2), "/..+");
-  probe.PFeld()(2, 2, 2) = probe.PFeld()(8, 1, 2) = Shot::miss;
+  probe.PFeld().set(2, 2, 2, Shot::miss);
+  probe.PFeld().set(8, 1, 2, Shot::miss);
   EXPECT_EQ(probe.ShotList(), (Cells{{10, 6}, {10, 7}})) << "two, without a coin";
 }
 
@@ -58,7 +59,7 @@ TEST_F(SearchTest, LoneCellsAreReachedAtLast) {
   know(".ooooooooo/oooooooooo/ooooooo.oo/oooooooooo/oo.ooooooo/oooooooooo/oooooooooo/oooooooooo");
   EXPECT_EQ(probe.ShotList(), (Cells{{1, 1}})) << "two of its neighbours are off the field";
   EXPECT_EQ(draw.draws, 0) << "a single block has candidates: no coin";
-  probe.PFeld()(1, 1, 2) = Shot::miss;
+  probe.PFeld().set(1, 1, 2, Shot::miss);
   EXPECT_EQ(probe.ShotList(), (Cells{{8, 3}, {3, 5}})) << "row by row over the field";
 }
 

@@ -59,7 +59,7 @@ private:
   void setStatus(int BootID, int j, std::uint8_t status) {
     tBoot &boot = humanBoat(BootID);
     boot.setStatus(j, status);
-    grid_.PFeld_(boot.X(j), boot.Y(j), 2) = status;
+    grid_.PFeld_.set(boot.X(j), boot.Y(j), 2, status);
   }
   static void place(Field &field, std::vector<tBoot> &boats, const char *fleet) {
     std::vector<int> points(boats.size(), 0);
@@ -68,7 +68,7 @@ private:
         return;
       const auto i = static_cast<std::size_t>(letter - 'A');
       boats.at(i).setPoint(++points[i], X, Y);
-      field(X, Y, 1) = static_cast<std::uint8_t>(i + 1);
+      field.set(X, Y, 1, static_cast<std::uint8_t>(i + 1));
     });
   }
 
