@@ -72,6 +72,7 @@ HelpWindow::~HelpWindow() = default;
 
 void HelpWindow::buildContents() {
   QHelpContentWidget *contents = book_.contentWidget();
+  contents->setAccessibleName("Inhalt");
   contents->setRootIsDecorated(false);
   tabs_.addTab(contents, "Inhalt");
   const auto showTopic = [this](const QModelIndex &topic) {
