@@ -43,6 +43,7 @@ public:
 
   /// The value of a cell on the field.
   std::uint8_t operator()(int X, int Y) const { return values_[index(X, Y)]; }
+  /// Gives a cell on the field a value.
   void set(int X, int Y, std::uint8_t value) {
     values_[index(X, Y)] = value;
     Row &row = zeros_[static_cast<std::size_t>(Y)];

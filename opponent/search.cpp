@@ -80,9 +80,11 @@ std::vector<Cell> unknownCells(const Layer &shots) {
 } // namespace
 
 std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
+  if (sea.OnlySinglesLeft)
+    return unknownCells(sea.shots);
   const FreeNeighbours free(sea.shots);
   const int n = free.most();
-  if (n == 0 || sea.OnlySinglesLeft)
+  if (n == 0)
     return unknownCells(sea.shots);
 
   std::array<BlockRank, kMostBlocks> ranks;
@@ -110,12 +112,12 @@ FreeNeighbours::FreeNeighbours(const Layer &shots) {
     const Row left = free[Y] << 1, right = free[Y] >> 1;
     const std::array<Row, 3> upright{~(above | below), above ^ below, above & below};
     const std::array<Row, 3> level{~(left | right), left ^ right, left & right};
-    std::array<Row, 5> both{};
+    std::array<Row, 5> byCount{};
     for (std::size_t i = 0; i < 3; ++i)
       for (std::size_t j = 0; j < 3; ++j)
-        both[i + j] |= upright[i] & level[j];
-    for (std::size_t n = 0; n < both.size(); ++n)
-      cells_[n][Y] = both[n] & free[Y] & field;
+        byCount[i + j] |= upright[i] & level[j];
+    for (std::size_t n = 0; n < byCount.size(); ++n)
+      cells_[n][Y] = byCount[n] & free[Y] & field;
   }
 }
 
@@ -140,7 +142,7 @@ void SortBlockRanking(std::span<BlockRank> Ranking) {
   for (std::uint32_t rows : rowsOfCount)
     for (; rows != 0; rows &= rows - 1, ++i) {
       const auto m = static_cast<std::size_t>(std::countr_zero(rows));
-      rowsOfCount[Ranking[i].count] ^= 1u << i ^ 1u << m;
+      rowsOfCount[Ranking[i].count] ^= 1u << i ^ 1u << m; // what stood in row i goes to row m
       std::swap(Ranking[i], Ranking[m]);
     }
 }

@@ -113,18 +113,16 @@ bool isAt(Stage stage, const clsGrid &grid) {
   for (int Y = 1; Y <= grid.rows(); ++Y)
     for (int X = 1; X <= grid.columns(); ++X)
       known += grid.PFeld()(X, Y, 2) != Shot::none;
-  bool longAfloat = false;
-  for (int i = 1; i <= grid.BoatCount(); ++i)
-    longAfloat = longAfloat || (grid.PBoote(i).length() > 1 && !grid.PBoote(i).isSunk());
   switch (stage) {
   case untouched:
     return true;
   case halfKnown:
-    return grid.Treffer == 0 && longAfloat && 2 * known >= grid.rows() * grid.columns();
+    return grid.Treffer == 0 && !grid.OnlySinglesLeft() &&
+           2 * known >= grid.rows() * grid.columns();
   case finishing:
     return grid.Treffer != 0;
   case onlySingles:
-    return grid.Treffer == 0 && !longAfloat && !isSunk(grid);
+    return grid.Treffer == 0 && grid.OnlySinglesLeft() && !isSunk(grid);
   }
   return false;
 }
