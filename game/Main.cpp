@@ -19,7 +19,7 @@ void dressApplication() {
   palette.setColor(QPalette::Highlight, QColor(20, 70, 140));
   palette.setColor(QPalette::PlaceholderText, QColor(75, 80, 95));
   QApplication::setPalette(palette);
-  QFont font = sansFont(9.75); // tool tips, messages, help
+  QFont font = sansFont(9.75); // tool tips, messages, help, which may hold any text
   font.setStyleStrategy(QFont::PreferDefault);
   QApplication::setFont(font);
   QApplication::setApplicationName("Korvel");
