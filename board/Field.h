@@ -16,8 +16,8 @@ struct Cell {
   bool operator==(const Cell &) const = default;
 };
 
-/// One byte for each cell of a field, 0 at first. Which cells hold 0 is kept in bits as well, so
-/// that a rule can look at a whole row of cells at once.
+/// One byte for each cell of a field, 0 at first. Which cells hold another value is kept in bits as
+/// well, so that a rule can look at a whole row of cells at once.
 class Layer {
 public:
   /// Cells of a row, column X in bit X.
@@ -31,7 +31,7 @@ public:
     columns_ = columns;
     rows_ = rows;
     values_.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), 0);
-    zeros_.fill(((Row{1} << columns) - 1) << 1);
+    filled_.fill(0);
   }
 
   int columns() const { return columns_; }
@@ -46,12 +46,13 @@ public:
   /// Gives a cell on the field a value.
   void set(int X, int Y, std::uint8_t value) {
     values_[index(X, Y)] = value;
-    Row &row = zeros_[static_cast<std::size_t>(Y)];
-    row = value == 0 ? row | Row{1} << X : row & ~(Row{1} << X);
+    Row &row = filled_[static_cast<std::size_t>(Y)];
+    row = value == 0 ? row & ~(Row{1} << X) : row | Row{1} << X;
   }
 
-  /// The cells of a row of the field that hold 0.
-  Row zeros(int Y) const { return zeros_[static_cast<std::size_t>(Y)]; }
+  /// The cells of a row that hold another value than 0. `Y` may lie off the field, from 0 to the
+  /// row below the largest one; no bit is set for cells off the field.
+  Row filled(int Y) const { return filled_[static_cast<std::size_t>(Y)]; }
 
 private:
   std::size_t index(int X, int Y) const {
@@ -62,7 +63,7 @@ private:
   int columns_ = 0;
   int rows_ = 0;
   std::vector<std::uint8_t> values_;
-  std::array<Row, rowsOf(kSizes) + 1> zeros_{}; ///< by row, from 1 on
+  std::array<Row, rowsOf(kSizes) + 2> filled_{}; ///< by row, with one above and below the field
 };
 
 /// What layer 2 of a field holds of a cell.

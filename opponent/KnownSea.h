@@ -27,26 +27,12 @@ std::vector<Cell> finishingList(const KnownSea &sea);
 
 // Steps of the search, open to tests.
 
-/// How many of its four edge neighbours each unknown cell has free. A neighbour is free if it is
-/// unknown or lies off the field. Counted once, for all cells of a row at a time.
-class FreeNeighbours {
-public:
-  using Row = Layer::Row;
+/// Cells of a field by row, from row 1 on; the rows below a smaller field are empty.
+using CellRows = std::array<Layer::Row, rowsOf(kSizes) + 1>;
 
-  explicit FreeNeighbours(const Layer &shots);
-
-  /// The largest number that any unknown cell has; 0 as well if there is none.
-  int most() const;
-  /// The unknown cells of row `Y` of which exactly `n`, 0 to 4, neighbours are free.
-  Row cells(int Y, int n) const {
-    return cells_[static_cast<std::size_t>(n)][static_cast<std::size_t>(Y)];
-  }
-  /// Whether (X, Y) is such a cell.
-  bool HasFreeNeighbours(int X, int Y, int n) const { return (cells(Y, n) >> X & 1) != 0; }
-
-private:
-  std::array<std::array<Row, rowsOf(kSizes) + 1>, 5> cells_{}; ///< by n, then by row
-};
+/// All unknown cells of which exactly `n`, 0 to 4, edge neighbours are free. A neighbour is free if
+/// it is unknown or lies off the field.
+CellRows HasFreeNeighbours(const Layer &shots, int n);
 
 /// The number of candidates of a block, and its number from 1; block 0 has no candidate.
 struct BlockRank {

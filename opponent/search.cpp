@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <functional>
+#include <numeric>
 
 namespace {
 
@@ -22,36 +24,43 @@ using Row = Layer::Row;
 constexpr int kBlockColumns = 5;
 constexpr int kBlockRows = 4;
 constexpr int kBlockCells = kBlockColumns * kBlockRows;
-constexpr int kMostBlocks = columnsOf(kSizes) / kBlockColumns * (rowsOf(kSizes) / kBlockRows);
+constexpr int kMostRows = rowsOf(kSizes);
+constexpr int kMostBlocks = columnsOf(kSizes) / kBlockColumns * (kMostRows / kBlockRows);
 
-/// Fills in the blocks of a sea, each with its number of cells that have `n` free neighbours.
+bool isEmpty(const CellRows &cells) {
+  return std::accumulate(cells.begin() + 1, cells.end(), Row{0}, std::bit_or<>()) == 0;
+}
+
+/// Fills in the blocks of a sea, each with its number of candidates.
 std::span<BlockRank> rankBlocks(std::array<BlockRank, kMostBlocks> &ranks, const Layer &shots,
-                                const FreeNeighbours &free, int n) {
+                                const CellRows &candidates) {
   // The numbers of the blocks beside each other grow in the bits of their columns, where 20 has
-  // room. Two rows are looked at in one.
-  using Rows = std::uint64_t;
-  constexpr Rows kFirstColumns = 0b00001'00001'00001'00001 * ((Rows{1} << 32) + 1);
-  static_assert(kBlockCells < 1 << kBlockColumns && kBlockRows % 2 == 0);
+  // room.
+  constexpr Row kFirstColumns = 0b00001'00001'00001'00001;
+  constexpr Row kColumns = 0b11111;
+  static_assert(kBlockCells <= kColumns);
+  CellRows sums;
+  for (std::size_t Y = 1; Y <= kMostRows; ++Y) {
+    sums[Y] = 0;
+    for (int X = 1; X <= kBlockColumns; ++X)
+      sums[Y] += candidates[Y] >> X & kFirstColumns;
+  }
+
   std::uint8_t block = 0;
-  for (int top = 1; top <= shots.rows(); top += kBlockRows) {
-    Rows counts = 0;
-    for (int Y = top; Y < top + kBlockRows; Y += 2) {
-      const Rows rows = free.cells(Y, n) | Rows{free.cells(Y + 1, n)} << 32;
-      for (int X = 1; X <= kBlockColumns; ++X)
-        counts += rows >> X & kFirstColumns;
-    }
-    counts += counts >> 32;
-    for (int left = 0; left < shots.columns(); left += kBlockColumns) {
-      const auto count = static_cast<std::uint8_t>(counts >> left & ((1 << kBlockColumns) - 1));
+  for (std::size_t Y = 1; Y <= static_cast<std::size_t>(shots.rows()); Y += kBlockRows) {
+    Row counts = sums[Y] + sums[Y + 1] + sums[Y + 2] + sums[Y + 3];
+    for (int X = 1; X <= shots.columns(); X += kBlockColumns, counts >>= kBlockColumns) {
+      const auto count = static_cast<std::uint8_t>(counts & kColumns);
       ++block;
-      ranks[block - 1u] = {count, count > 0 ? block : std::uint8_t{0}};
+      // A product, as a branch that can't be foretold would take longer than all the rest.
+      ranks[block - 1u] = {count, static_cast<std::uint8_t>(block * (count > 0))};
     }
   }
   return std::span(ranks).first(block);
 }
 
-/// The cells of a block that have `n` free neighbours, row by row.
-std::vector<Cell> candidatesOf(int block, const Layer &shots, const FreeNeighbours &free, int n) {
+/// The candidates of a block, row by row.
+std::vector<Cell> candidatesOf(int block, const Layer &shots, const CellRows &candidates) {
   const int across = shots.columns() / kBlockColumns;
   const int left = (block - 1) % across * kBlockColumns;
   const int top = (block - 1) / across * kBlockRows;
@@ -61,7 +70,7 @@ std::vector<Cell> candidatesOf(int block, const Layer &shots, const FreeNeighbou
   for (int Y = top + 1; Y <= top + kBlockRows; ++Y)
     for (int X = left + 1; X <= left + kBlockColumns; ++X) {
       cells[count] = {X, Y};
-      count += free.HasFreeNeighbours(X, Y, n);
+      count += candidates[static_cast<std::size_t>(Y)] >> X & 1;
     }
   cells.resize(count);
   return cells;
@@ -82,65 +91,58 @@ std::vector<Cell> unknownCells(const Layer &shots) {
 std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
   if (sea.OnlySinglesLeft)
     return unknownCells(sea.shots);
-  const FreeNeighbours free(sea.shots);
-  const int n = free.most();
+
+  int n = 4;
+  CellRows candidates = HasFreeNeighbours(sea.shots, n);
+  while (isEmpty(candidates) && --n > 0)
+    candidates = HasFreeNeighbours(sea.shots, n);
   if (n == 0)
     return unknownCells(sea.shots);
 
   std::array<BlockRank, kMostBlocks> ranks;
-  const auto BlockRanking = rankBlocks(ranks, sea.shots, free, n);
+  const auto BlockRanking = rankBlocks(ranks, sea.shots, candidates);
   SortBlockRanking(BlockRanking);
 
   const BlockRank best = BlockRanking.back();
   const BlockRank second = BlockRanking[BlockRanking.size() - 2];
   const bool takeSecond = second.block != 0 && draw.draw(2) == 2;
-  return candidatesOf((takeSecond ? second : best).block, sea.shots, free, n);
+  return candidatesOf((takeSecond ? second : best).block, sea.shots, candidates);
 }
 
-FreeNeighbours::FreeNeighbours(const Layer &shots) {
-  // The unknown cells, with what lies off the field.
-  const auto rows = static_cast<std::size_t>(shots.rows());
+CellRows HasFreeNeighbours(const Layer &shots, int n) {
+  // The free neighbours of all cells of a row are added up in binary digits.
+  const std::array<Row, 3> digit{n & 1 ? ~Row{0} : 0, n & 2 ? ~Row{0} : 0, n & 4 ? ~Row{0} : 0};
+  const auto free = [&](std::size_t Y) { return ~shots.filled(static_cast<int>(Y)); };
   const Row field = ((Row{1} << shots.columns()) - 1) << 1;
-  std::array<Row, rowsOf(kSizes) + 2> free;
-  free[0] = free[rows + 1] = ~Row{0};
-  for (std::size_t Y = 1; Y <= rows; ++Y)
-    free[Y] = shots.zeros(static_cast<int>(Y)) | ~field;
-
-  for (std::size_t Y = 1; Y <= rows; ++Y) {
-    // None, one and both of two opposite neighbours.
-    const Row above = free[Y - 1], below = free[Y + 1];
-    const Row left = free[Y] << 1, right = free[Y] >> 1;
-    const std::array<Row, 3> upright{~(above | below), above ^ below, above & below};
-    const std::array<Row, 3> level{~(left | right), left ^ right, left & right};
-    std::array<Row, 5> byCount{};
-    for (std::size_t i = 0; i < 3; ++i)
-      for (std::size_t j = 0; j < 3; ++j)
-        byCount[i + j] |= upright[i] & level[j];
-    for (std::size_t n = 0; n < byCount.size(); ++n)
-      cells_[n][Y] = byCount[n] & free[Y] & field;
+  CellRows cells{};
+  for (std::size_t Y = 1; Y <= kMostRows; ++Y) {
+    const Row above = free(Y - 1), below = free(Y + 1);
+    const Row left = free(Y) << 1, right = free(Y) >> 1;
+    const Row ones = above ^ below ^ left ^ right;
+    const Row fours = above & below & left & right;
+    const Row twos =
+        ((above & below) | (left & right) | ((above ^ below) & (left ^ right))) & ~fours;
+    const Row other = (ones ^ digit[0]) | (twos ^ digit[1]) | (fours ^ digit[2]);
+    cells[Y] = free(Y) & field & ~other;
   }
-}
-
-int FreeNeighbours::most() const {
-  for (int n = 4; n > 0; --n) {
-    Row any = 0;
-    for (const Row row : cells_[static_cast<std::size_t>(n)])
-      any |= row;
-    if (any != 0)
-      return n;
-  }
-  return 0;
+  std::fill(cells.begin() + shots.rows() + 1, cells.end(), 0);
+  return cells;
 }
 
 void SortBlockRanking(std::span<BlockRank> Ranking) {
   // The rows of each count, row i in bit i, so that no step has to look for the least.
   std::array<std::uint32_t, kBlockCells + 1> rowsOfCount{};
-  for (std::size_t row = 0; row < Ranking.size(); ++row)
+  std::uint32_t counts = 0; // those that occur, a bit each
+  for (std::size_t row = 0; row < Ranking.size(); ++row) {
     rowsOfCount[Ranking[row].count] |= 1u << row;
+    counts |= 1u << Ranking[row].count;
+  }
 
+  // When all others are in their places, the rows of the largest count are so too.
   std::size_t i = 0;
-  for (std::uint32_t rows : rowsOfCount)
-    for (; rows != 0; rows &= rows - 1, ++i) {
+  for (; (counts & (counts - 1)) != 0; counts &= counts - 1)
+    for (std::uint32_t rows = rowsOfCount[static_cast<std::size_t>(std::countr_zero(counts))];
+         rows != 0; rows &= rows - 1, ++i) {
       const auto m = static_cast<std::size_t>(std::countr_zero(rows));
       rowsOfCount[Ranking[i].count] ^= 1u << i ^ 1u << m; // what stood in row i goes to row m
       std::swap(Ranking[i], Ranking[m]);

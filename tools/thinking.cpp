@@ -6,6 +6,7 @@
 #include "players.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdio>
 #include <cstring>
@@ -84,10 +85,12 @@ public:
     const auto second = searchList(known(), tail);
     if (best == second)
       return std::nullopt;
-    const FreeNeighbours neighbours(shots());
+    std::array<CellRows, 5> withFree;
+    for (int n = 0; n <= 4; ++n)
+      withFree[static_cast<std::size_t>(n)] = HasFreeNeighbours(shots(), n);
     const std::string free = toJson(shots(), [&](int X, int Y) {
-      for (int n = 0; n <= 4; ++n)
-        if (neighbours.HasFreeNeighbours(X, Y, n))
+      for (std::size_t n = 0; n <= 4; ++n)
+        if ((withFree[n][static_cast<std::size_t>(Y)] >> X & 1) != 0)
           return static_cast<char>('0' + n);
       return '.';
     });
