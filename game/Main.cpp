@@ -9,8 +9,6 @@
 #include <QIcon>
 #include <QStyleFactory>
 
-#include <future>
-
 void dressApplication() {
   // One look everywhere, in light colours: the design sets dark texts on light blue, which a dark
   // desktop's palette would make unreadable.
@@ -27,15 +25,11 @@ void dressApplication() {
   QGuiApplication::setDesktopFileName("korvel");
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64})
-    icon.addFile(QString(":/pictures/korvel-%1.png").arg(size));
+    icon.addPixmap(QPixmap::fromImage(loadImage(QString("korvel-%1").arg(size))));
   QApplication::setWindowIcon(icon);
 }
 
 std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const QString &folder) {
-  // The largest picture is decoded beside the splash.
-  auto background =
-      std::async(std::launch::async,
-                 [path = picturePath("haupt-hintergrund", "jpg")] { return QImage(path); });
   auto splash = std::make_unique<frmStart>(QApplication::applicationVersion());
   splash->show();
   letEventsRun();
@@ -46,8 +40,7 @@ std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const
   globals.sounds = Sounds::load();
   globals.MuellIcon = {loadPicture("muell-grau"), loadPicture("muell-rot")};
   globals.sprites = Sprites::load();
-  globals.background = QPixmap::fromImage(background.get());
-  Q_ASSERT(!globals.background.isNull());
+  globals.background = loadPicture("haupt-hintergrund");
   globals.settings = Settings::read(services.store);
   globals.score = Score(std::filesystem::path(globals.ScorePath.toStdU16String()));
   if (Score::isBroken(globals.score.loadAtStart())) {

@@ -1,5 +1,7 @@
 #include "PictureBox.h"
 
+#include "pictures.h"
+
 #include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
@@ -42,11 +44,9 @@ QAccessibleInterface *accessibleField(const QString &, QObject *object) {
 
 Sprites Sprites::load() {
   Sprites sprites;
-  for (std::size_t i = 0; i < kSpriteNames.size(); ++i) {
-    // Stretching down from the double size keeps more of the picture.
-    sprites.pictures_[i].load(QString(":/pictures/%1@2x.png").arg(kSpriteNames[i]));
-    Q_ASSERT(!sprites.pictures_[i].isNull());
-  }
+  // Stretching down from the double size keeps more of the picture.
+  for (std::size_t i = 0; i < kSpriteNames.size(); ++i)
+    sprites.pictures_[i] = loadImage(QString("%1@2x").arg(kSpriteNames[i]));
   return sprites;
 }
 

@@ -1,14 +1,27 @@
 #include "pictures.h"
 
 #include <QGuiApplication>
+#include <QResource>
 
-QString picturePath(const QString &name, const QString &suffix) {
-  const bool dense = qApp->devicePixelRatio() > 1;
-  return ":/pictures/" + name + (dense ? "@2x." : ".") + suffix;
+#include <cstring>
+
+QImage loadImage(const QString &name) {
+  const QResource decoded(":/decoded/" + name);
+  if (!decoded.isValid()) {
+    const QImage image(":/pictures/" + name); // tries all endings that Qt can read
+    Q_ASSERT(!image.isNull());
+    return image;
+  }
+  DecodedHead head;
+  std::memcpy(&head, decoded.data(), sizeof head);
+  QImage image(head.width, head.height, static_cast<QImage::Format>(head.format));
+  std::memcpy(image.bits(), decoded.data() + sizeof head,
+              static_cast<std::size_t>(image.sizeInBytes()));
+  image.setDevicePixelRatio(head.ratio);
+  return image;
 }
 
 QPixmap loadPicture(const QString &name) {
-  QPixmap pixmap(picturePath(name));
-  Q_ASSERT(!pixmap.isNull());
-  return pixmap;
+  const bool dense = qApp->devicePixelRatio() > 1;
+  return QPixmap::fromImage(loadImage(dense ? name + "@2x" : name));
 }

@@ -1,11 +1,20 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 
-/// The path of a picture that the program carries inside, in the size of the design; on screens of
-/// twice the density of its double-size version.
-QString picturePath(const QString &name, const QString &suffix = "png");
+/// A picture that the program carries inside, by its name without ending. A name that isn't there
+/// stops debug builds.
+QImage loadImage(const QString &name);
 
-/// The picture of that path. A name that isn't there stops debug builds.
+/// The picture in the size of the design; on screens of twice the density its double-size version.
 QPixmap loadPicture(const QString &name);
+
+/// What stands before the pixels of a picture that is carried decoded (see tools/decode_pictures).
+/// The pixels have 32 bits each.
+struct DecodedHead {
+  qint32 width = 0, height = 0;
+  qint32 format = 0; ///< a `QImage::Format`
+  qint32 ratio = 1;  ///< its pixels to one of the design
+};

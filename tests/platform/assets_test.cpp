@@ -1,6 +1,7 @@
 #define SDL_MAIN_HANDLED
+#include "pictures.h"
+
 #include <QFile>
-#include <QImage>
 #include <QtEndian>
 #include <SDL.h>
 #include <gtest/gtest.h>
@@ -151,13 +152,13 @@ TEST(Assets, PicturesHaveTheSizeOfTheDesignAndTwiceThat) {
   for (const Case &c : cases)
     for (const QString &name : c.names)
       for (const int scale : {1, 2}) {
-        // Without an ending Qt tries those that it knows.
-        const QImage picture(":/pictures/" + name + (scale == 2 ? "@2x" : ""));
+        const QImage picture = loadImage(name + (scale == 2 ? "@2x" : ""));
         EXPECT_EQ(picture.size(), scale * c.size) << name.toStdString();
+        EXPECT_EQ(picture.devicePixelRatio(), scale) << name.toStdString();
         EXPECT_EQ(picture.hasAlphaChannel(), c.seeThrough) << name.toStdString();
       }
   for (const int size : {16, 24, 32, 48, 64, 128, 256})
-    EXPECT_EQ(QImage(QString(":/pictures/korvel-%1.png").arg(size)).size(), QSize(size, size));
+    EXPECT_EQ(loadImage(QString("korvel-%1").arg(size)).size(), QSize(size, size));
 }
 
 /// The mean difference of two pictures of the same size, 0 to 255.
@@ -170,7 +171,7 @@ double difference(const QImage &a, const QImage &b) {
 }
 
 TEST(Assets, WaterJoinsItselfWithoutASeam) {
-  const QImage water(":/pictures/wasser@2x.png");
+  const QImage water = loadImage("wasser@2x");
   const int last = water.width() - 1;
   const auto column = [&](int x) { return water.copy(x, 0, 1, last + 1); };
   const auto row = [&](int y) { return water.copy(0, y, last + 1, 1); };
@@ -185,7 +186,7 @@ TEST(Assets, WaterJoinsItselfWithoutASeam) {
 TEST(Assets, CellsAreToldApartInGreyAtTheSmallestSize) {
   std::vector<QImage> cells;
   for (const char *name : {"wasser", "boot", "daneben", "treffer", "versenkt"})
-    cells.push_back(QImage(QString(":/pictures/%1@2x.png").arg(name))
+    cells.push_back(loadImage(QString("%1@2x").arg(name))
                         .scaled(15, 15, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   for (std::size_t i = 0; i < cells.size(); ++i)
     for (std::size_t j = 0; j < i; ++j)

@@ -89,7 +89,7 @@ TEST_P(PictureBoxTest, SpritesAreStretchedOverExactlyTheirRectangle) {
       box.sprite(static_cast<Picture>(i), corner.x(), corner.y(), cell, cell);
       EXPECT_EQ(drawnArea(box.content(), kBlue), physical(visible));
       const QImage whole =
-          QImage(QString(":/pictures/%1@2x.png").arg(kNames[i]))
+          loadImage(QString("%1@2x").arg(kNames[i]))
               .scaled(physical(place).size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
               .convertToFormat(QImage::Format_RGB32);
       EXPECT_EQ(box.content().copy(physical(visible)),
