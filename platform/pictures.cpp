@@ -8,7 +8,7 @@
 QImage loadImage(const QString &name) {
   const QResource decoded(":/decoded/" + name);
   if (!decoded.isValid()) {
-    const QImage image(":/pictures/" + name); // tries all endings that Qt can read
+    QImage image(":/pictures/" + name); // tries all endings that Qt can read
     Q_ASSERT(!image.isNull());
     return image;
   }
