@@ -92,11 +92,10 @@ std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
   if (sea.OnlySinglesLeft)
     return unknownCells(sea.shots);
 
-  int n = 4;
-  CellRows candidates = HasFreeNeighbours(sea.shots, n);
-  while (isEmpty(candidates) && --n > 0)
+  CellRows candidates{};
+  for (int n = 4; n > 0 && isEmpty(candidates); --n)
     candidates = HasFreeNeighbours(sea.shots, n);
-  if (n == 0)
+  if (isEmpty(candidates))
     return unknownCells(sea.shots);
 
   std::array<BlockRank, kMostBlocks> ranks;
