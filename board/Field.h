@@ -50,9 +50,12 @@ public:
     row = value == 0 ? row & ~(Row{1} << X) : row | Row{1} << X;
   }
 
-  /// The cells of a row that hold another value than 0. `Y` may lie off the field, from 0 to the
-  /// row below the largest one; no bit is set for cells off the field.
-  Row filled(int Y) const { return filled_[static_cast<std::size_t>(Y)]; }
+  /// The cells of a row that hold another value than 0; none of them lies off the field. `Y` may be
+  /// that of the row above or below the field, too.
+  Row filled(int Y) const {
+    assert(Y >= 0 && Y <= rows_ + 1);
+    return filled_[static_cast<std::size_t>(Y)];
+  }
 
 private:
   std::size_t index(int X, int Y) const {

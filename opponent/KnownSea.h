@@ -30,8 +30,8 @@ std::vector<Cell> finishingList(const KnownSea &sea);
 /// Cells of a field by row, from row 1 on; the rows below a smaller field are empty.
 using CellRows = std::array<Layer::Row, rowsOf(kSizes) + 1>;
 
-/// All unknown cells of which exactly `n`, 0 to 4, edge neighbours are free. A neighbour is free if
-/// it is unknown or lies off the field.
+/// All unknown cells that have exactly `n`, 0 to 4, free neighbours at their edges, asked for at
+/// once. A neighbour is free if it is unknown or lies off the field.
 CellRows HasFreeNeighbours(const Layer &shots, int n);
 
 /// The number of candidates of a block, and its number from 1; block 0 has no candidate.
@@ -40,6 +40,6 @@ struct BlockRank {
   std::uint8_t block = 0;
 };
 
-/// Selection sort, ascending by count. Its exact form breaks the ties: of equal counts the one
-/// found first goes first, and the swap displaces what stood there.
+/// Selection sort, ascending by count, of the up to 16 blocks of a sea. Its exact form breaks the
+/// ties: of equal counts the one found first goes first, and the swap displaces what stood there.
 void SortBlockRanking(std::span<BlockRank> Ranking);

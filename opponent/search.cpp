@@ -7,15 +7,15 @@
 //               --+--     neighbours, for the largest n of 4, 3, 2, 1 that any cell reaches
 //               3 | 4
 //
-// The block with the most candidates is taken, or the second, on the toss of a coin. Once only
-// boats of one cell are left, any unknown cell is as good as any other.
+// The block with the most candidates is taken, or the second, on the toss of a coin, if a second
+// has any. Where no unknown cell has a free neighbour, and once only boats of one cell are left,
+// any unknown cell is as good as any other.
 
 #include "KnownSea.h"
 
 #include <algorithm>
 #include <bit>
-#include <functional>
-#include <numeric>
+#include <cassert>
 
 namespace {
 
@@ -24,33 +24,31 @@ using Row = Layer::Row;
 constexpr int kBlockColumns = 5;
 constexpr int kBlockRows = 4;
 constexpr int kBlockCells = kBlockColumns * kBlockRows;
-constexpr int kMostRows = rowsOf(kSizes);
-constexpr int kMostBlocks = columnsOf(kSizes) / kBlockColumns * (kMostRows / kBlockRows);
+constexpr int kMostBlocks = columnsOf(kSizes) / kBlockColumns * (rowsOf(kSizes) / kBlockRows);
 
 bool isEmpty(const CellRows &cells) {
-  return std::accumulate(cells.begin() + 1, cells.end(), Row{0}, std::bit_or<>()) == 0;
+  return std::all_of(cells.begin(), cells.end(), [](Row row) { return row == 0; });
 }
 
 /// Fills in the blocks of a sea, each with its number of candidates.
 std::span<BlockRank> rankBlocks(std::array<BlockRank, kMostBlocks> &ranks, const Layer &shots,
                                 const CellRows &candidates) {
-  // The numbers of the blocks beside each other grow in the bits of their columns, where 20 has
-  // room.
+  // The blocks beside each other are counted at once, each in the bits of its five columns, where
+  // 20 has room.
   constexpr Row kFirstColumns = 0b00001'00001'00001'00001;
-  constexpr Row kColumns = 0b11111;
-  static_assert(kBlockCells <= kColumns);
-  CellRows sums;
-  for (std::size_t Y = 1; Y <= kMostRows; ++Y) {
-    sums[Y] = 0;
+  constexpr Row kCount = 0b11111;
+  static_assert(kBlockCells <= kCount);
+  const auto rows = static_cast<std::size_t>(shots.rows());
+  CellRows sums{};
+  for (std::size_t Y = 1; Y <= rows; ++Y)
     for (int X = 1; X <= kBlockColumns; ++X)
       sums[Y] += candidates[Y] >> X & kFirstColumns;
-  }
 
   std::uint8_t block = 0;
-  for (std::size_t Y = 1; Y <= static_cast<std::size_t>(shots.rows()); Y += kBlockRows) {
+  for (std::size_t Y = 1; Y <= rows; Y += kBlockRows) {
     Row counts = sums[Y] + sums[Y + 1] + sums[Y + 2] + sums[Y + 3];
     for (int X = 1; X <= shots.columns(); X += kBlockColumns, counts >>= kBlockColumns) {
-      const auto count = static_cast<std::uint8_t>(counts & kColumns);
+      const auto count = static_cast<std::uint8_t>(counts & kCount);
       ++block;
       // A product, as a branch that can't be foretold would take longer than all the rest.
       ranks[block - 1u] = {count, static_cast<std::uint8_t>(block * (count > 0))};
@@ -102,33 +100,35 @@ std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw) {
   const auto BlockRanking = rankBlocks(ranks, sea.shots, candidates);
   SortBlockRanking(BlockRanking);
 
-  const BlockRank best = BlockRanking.back();
-  const BlockRank second = BlockRanking[BlockRanking.size() - 2];
-  const bool takeSecond = second.block != 0 && draw.draw(2) == 2;
-  return candidatesOf((takeSecond ? second : best).block, sea.shots, candidates);
+  // The best stands last, the second before it.
+  const std::size_t blocks = BlockRanking.size();
+  const auto fromEnd =
+      static_cast<std::size_t>(BlockRanking[blocks - 2].block != 0 ? draw.draw(2) : 1);
+  return candidatesOf(BlockRanking[blocks - fromEnd].block, sea.shots, candidates);
 }
 
 CellRows HasFreeNeighbours(const Layer &shots, int n) {
-  // The free neighbours of all cells of a row are added up in binary digits.
-  const std::array<Row, 3> digit{n & 1 ? ~Row{0} : 0, n & 2 ? ~Row{0} : 0, n & 4 ? ~Row{0} : 0};
+  // The free neighbours of all cells of a row are added up in binary, a row for each digit of the
+  // sums, and compared with n in all columns.
+  const std::array<Row, 3> digits{n & 1 ? ~Row{0} : 0, n & 2 ? ~Row{0} : 0, n & 4 ? ~Row{0} : 0};
   const auto free = [&](std::size_t Y) { return ~shots.filled(static_cast<int>(Y)); };
   const Row field = ((Row{1} << shots.columns()) - 1) << 1;
   CellRows cells{};
-  for (std::size_t Y = 1; Y <= kMostRows; ++Y) {
+  for (std::size_t Y = 1; Y <= static_cast<std::size_t>(shots.rows()); ++Y) {
     const Row above = free(Y - 1), below = free(Y + 1);
     const Row left = free(Y) << 1, right = free(Y) >> 1;
     const Row ones = above ^ below ^ left ^ right;
     const Row fours = above & below & left & right;
     const Row twos =
         ((above & below) | (left & right) | ((above ^ below) & (left ^ right))) & ~fours;
-    const Row other = (ones ^ digit[0]) | (twos ^ digit[1]) | (fours ^ digit[2]);
-    cells[Y] = free(Y) & field & ~other;
+    const Row differ = (ones ^ digits[0]) | (twos ^ digits[1]) | (fours ^ digits[2]);
+    cells[Y] = free(Y) & field & ~differ;
   }
-  std::fill(cells.begin() + shots.rows() + 1, cells.end(), 0);
   return cells;
 }
 
 void SortBlockRanking(std::span<BlockRank> Ranking) {
+  assert(Ranking.size() <= kMostBlocks);
   // The rows of each count, row i in bit i, so that no step has to look for the least.
   std::array<std::uint32_t, kBlockCells + 1> rowsOfCount{};
   std::uint32_t counts = 0; // those that occur, a bit each

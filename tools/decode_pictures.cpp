@@ -1,7 +1,7 @@
 // Decodes pictures for the game to carry inside.
 //
-// The first picture that Qt decodes costs a look at all its plugins, and those of the main window
-// together took a quarter of what the game's start takes beyond a bare window's.
+// The first picture that Qt decodes makes it look at all its plugins. That and the decoding of the
+// main window's pictures took a quarter of what the game's start takes beyond a bare window's.
 
 #include "pictures.h"
 
@@ -23,7 +23,7 @@ bool decode(const QString &path, const QDir &folder) {
                                           : QImage::Format_RGB32);
   const DecodedHead head{image.width(), image.height(), image.format(),
                          static_cast<qint32>(image.devicePixelRatio())};
-  QFile file(folder.filePath(QFileInfo(path).completeBaseName()));
+  QFile file(folder.filePath(QFileInfo(path).baseName()));
   return file.open(QIODevice::WriteOnly) &&
          file.write(reinterpret_cast<const char *>(&head), sizeof head) == sizeof head &&
          file.write(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes()) ==

@@ -1,6 +1,7 @@
 #define SDL_MAIN_HANDLED
 #include "pictures.h"
 
+#include <QDir>
 #include <QFile>
 #include <QtEndian>
 #include <SDL.h>
@@ -159,6 +160,16 @@ TEST(Assets, PicturesHaveTheSizeOfTheDesignAndTwiceThat) {
       }
   for (const int size : {16, 24, 32, 48, 64, 128, 256})
     EXPECT_EQ(loadImage(QString("korvel-%1").arg(size)).size(), QSize(size, size));
+}
+
+TEST(Assets, DecodedPicturesAreThoseOfTheirFiles) {
+  const QStringList names = QDir(":/decoded").entryList();
+  ASSERT_TRUE(names.contains("wasser@2x"));
+  for (const QString &name : names) {
+    const QImage decoded = loadImage(name);
+    EXPECT_EQ(decoded, QImage(KORVEL_PICTURES "/" + name).convertToFormat(decoded.format()))
+        << name.toStdString();
+  }
 }
 
 /// The mean difference of two pictures of the same size, 0 to 255.
