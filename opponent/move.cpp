@@ -22,7 +22,8 @@ std::vector<Cell> clsGrid::ShotList() {
 }
 
 bool clsGrid::OnlySinglesLeft() const {
-  return std::all_of(PBoote_.begin(), PBoote_.end(),
+  // From the shortest on, as those are afloat longest.
+  return std::all_of(PBoote_.rbegin(), PBoote_.rend(),
                      [](const tBoot &boot) { return boot.length() == 1 || boot.isSunk(); });
 }
 
