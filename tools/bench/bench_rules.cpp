@@ -127,9 +127,9 @@ bool isAt(Stage stage, const clsGrid &grid) {
   return false;
 }
 
-// One move each in some positions of a stage, which are played to before the clock runs. They are so
-// few that they stay in the nearest cache, as the one board of a game does: with fifty the row of
-// half the largest sea took 1.34 to 1.76 times its draws, by what else was in the cache.
+// One move each in some positions of a stage, which are played to before the clock runs. They are
+// so few that they stay in the nearest cache, as the one board of a game does: with fifty the row
+// of half the largest sea took 1.34 to 1.76 times its draws, by what else was in the cache.
 void BM_MoveAtStage(benchmark::State &state) {
   constexpr int kPositions = 10;
   CountingDraw draw;
