@@ -30,8 +30,8 @@ std::vector<Cell> finishingList(const KnownSea &sea);
 /// Cells of a field by row, from row 1 on; the rows below a smaller field are empty.
 using CellRows = std::array<Layer::Row, rowsOf(kSizes) + 1>;
 
-/// All unknown cells that have exactly `n`, 0 to 4, free neighbours at their edges, asked for at
-/// once. A neighbour is free if it is unknown or lies off the field.
+/// All unknown cells of which exactly `n`, 0 to 4, of the four edge neighbours are free. A
+/// neighbour is free if it is unknown or lies off the field.
 CellRows HasFreeNeighbours(const Layer &shots, int n);
 
 /// The number of candidates of a block, and its number from 1; block 0 has no candidate.

@@ -16,7 +16,7 @@ namespace {
 
 bool decode(const QString &path, const QDir &folder) {
   QImage image(path);
-  if (image.isNull())
+  if (image.isNull() || !folder.mkpath("."))
     return false;
   // The formats that Qt draws fastest.
   image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
@@ -43,8 +43,6 @@ int main(int argc, char **argv) {
     return argc == 2 && arguments[1] == "--help" ? 0 : 2;
   }
   const QDir folder(arguments[1]);
-  if (!folder.mkpath("."))
-    return 1;
   for (const QString &path : arguments.sliced(2))
     if (!decode(path, folder)) {
       std::fprintf(stderr, "%s can't be decoded into %s\n", qPrintable(path),
