@@ -23,12 +23,16 @@ public:
   }
 
 protected:
-  // Qt lets an access key act a tenth of a second later, which could be in the midst of a turn.
+  // Qt lets an access key act a tenth of a second later, which could be during a turn.
   bool event(QEvent *event) override {
     if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent *>(event)->isAmbiguous())
       return QAbstractButton::event(event);
     click();
     return true;
+  }
+  void keyPressEvent(QKeyEvent *event) override {
+    if (!clickByEnter(*this, *event))
+      QAbstractButton::keyPressEvent(event);
   }
   void paintEvent(QPaintEvent *) override {
     QPainter painter(this);

@@ -3,6 +3,8 @@
 #include "EventPump.h"
 #include "windows1252.h"
 
+#include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QInputMethodEvent>
@@ -29,12 +31,15 @@ QByteArray takeLine(QByteArrayView &text) {
 } // namespace
 
 void clsIntelliCombo::setCombo(QComboBox *vData) {
-  if (mvarCombo_)
+  if (mvarCombo_) {
     mvarCombo_->removeEventFilter(this);
+    mvarCombo_->view()->removeEventFilter(this);
+  }
   mvarCombo_ = vData;
   if (mvarCombo_) {
     mvarCombo_->setCompleter(nullptr);
     mvarCombo_->installEventFilter(this);
+    mvarCombo_->view()->installEventFilter(this);
   }
 }
 
@@ -111,18 +116,48 @@ void clsIntelliCombo::addEntry(const QString &entry) {
 
 bool clsIntelliCombo::eventFilter(QObject *watched, QEvent *event) {
   if (enabled_ && mvarCombo_ && mvarCombo_->lineEdit()) {
+    if (watched == mvarCombo_->view())
+      return inOpenList(*event);
     if (event->type() == QEvent::KeyPress && keyPressed(static_cast<QKeyEvent &>(*event)))
       return true;
     // What a dead key or another input method has composed: let in first, so that it has done with
     // its own text in the box, then completed.
     if (event->type() == QEvent::InputMethod &&
         !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty()) {
+      mvarCombo_->hidePopup();
       mvarCombo_->lineEdit()->event(event);
       FindAndSelect(mvarCombo_->currentText(), Match::prefix);
       return true;
     }
   }
   return QObject::eventFilter(watched, event);
+}
+
+// The list that is dropped down gets the keys before the box. True if the event has been dealt
+// with.
+bool clsIntelliCombo::inOpenList(QEvent &event) {
+  QComboBox &box = *mvarCombo_;
+  QLineEdit &edit = *box.lineEdit();
+  if (event.type() == QEvent::Show) {
+    // Enter takes the entry that is marked: none while the text is another.
+    if (box.itemText(box.currentIndex()) != box.currentText())
+      box.view()->setCurrentIndex({});
+    selected_ = {edit.selectionStart(), edit.selectionLength()}; // as the text will lose the focus
+  }
+  if (event.type() != QEvent::KeyPress)
+    return false;
+  const auto &key = static_cast<QKeyEvent &>(event);
+  const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  const bool isMarked = box.view()->currentIndex().isValid();
+  if (isEnter ? isMarked : key.text().isEmpty() || key.key() == Qt::Key_Escape)
+    return false; // takes the entry, moves in the list or closes it
+  // All else is for the box, as with the list closed: what types, deletes, and access keys.
+  box.hidePopup();
+  if (selected_.second > 0)
+    edit.setSelection(selected_.first, selected_.second);
+  if (!isEnter)
+    QCoreApplication::sendEvent(&box, &event);
+  return true;
 }
 
 // True if the key has been dealt with. Keys that do more than type or delete a character keep their

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 /// Gives an editable combo box a list from a text file and completion while typing: as soon as what
 /// is typed is the beginning of an entry, the box shows the whole entry, the part not yet typed
@@ -50,6 +51,7 @@ protected:
 private:
   enum class Match { prefix, exact };
 
+  bool inOpenList(QEvent &event);
   bool keyPressed(const QKeyEvent &key);
   QString NewText(int key) const;
   bool FindAndSelect(const QString &text, Match kind);
@@ -60,5 +62,6 @@ private:
 
   QPointer<QComboBox> mvarCombo_;
   bool enabled_ = true;
+  std::pair<int, int> selected_; ///< start and length in the text when the list was dropped down
   std::int32_t lastError_ = 0;
 };

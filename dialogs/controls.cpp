@@ -56,6 +56,14 @@ void drawFocus(QPainter &painter, const QRect &place) {
   painter.drawRect(place);
 }
 
+bool clickByEnter(QAbstractButton &button, const QKeyEvent &key) {
+  if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
+    return false;
+  if (!key.isAutoRepeat()) // a key held down presses nothing in the next window
+    button.click();
+  return true;
+}
+
 BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
                        const QString &caption, const QString &toolTip)
     : QPushButton(caption, parent) {
@@ -71,11 +79,8 @@ BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
 // NOLINTNEXTLINE(bugprone-parent-virtual-call)
 void BlueButton::focusInEvent(QFocusEvent *event) { QWidget::focusInEvent(event); }
 
-// Some desktops count Enter as a key that presses a button.
 void BlueButton::keyPressEvent(QKeyEvent *event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-    event->ignore();
-  else
+  if (!clickByEnter(*this, *event))
     QPushButton::keyPressEvent(event);
 }
 

@@ -36,8 +36,12 @@ QLabel *makePicture(QWidget *parent, const QRect &place, const QString &picture)
 /// The mark of the control with the keyboard focus: a dotted rectangle.
 void drawFocus(QPainter &painter, const QRect &place);
 
+/// Clicks the button if the key is Enter, which only some desktops do by themselves. False for any
+/// other key.
+bool clickByEnter(QAbstractButton &button, const QKeyEvent &key);
+
 /// A light blue button, caption or picture over caption. No key is bound to it but the access key
-/// of its caption and, with the focus, Space.
+/// of its caption and, with the focus, Space and Enter.
 class BlueButton : public QPushButton {
   Q_OBJECT
 
@@ -73,7 +77,8 @@ private:
 };
 
 /// A modal window of the game: of fixed size, centred over the main window when it is made. Escape
-/// closes it, as its frame does; Enter does nothing by itself.
+/// closes it, as its frame does; Enter presses the button with the focus and does nothing
+/// elsewhere.
 class Dialog : public QDialog {
   Q_OBJECT
 

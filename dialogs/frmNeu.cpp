@@ -3,6 +3,8 @@
 #include "EventPump.h"
 
 #include <QCompleter>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -86,18 +88,27 @@ bool frmNeu::event(QEvent *event) {
 }
 
 // A name grows by typing to 14 characters. From there on every typing key is discarded, Backspace
-// too; Delete and the choice from the list go on working.
+// too, and nothing is composed; Delete and the choice from the list go on working.
 bool frmNeu::eventFilter(QObject *watched, QEvent *event) {
-  const auto *key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event) : nullptr;
-  if (key && isStray(*key))
-    return true;
-  const bool typing =
-      (key && types(*key)) || (event->type() == QEvent::InputMethod &&
-                               !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty());
-  if (typing && cboName_.currentText().size() >= kMostTyped)
-    return true;
+  const auto isFull = [this] { return cboName_.currentText().size() >= kMostTyped; };
+  if (event->type() == QEvent::KeyPress) {
+    const auto &key = static_cast<QKeyEvent &>(*event);
+    if (isStray(key) || (types(key) && isFull()))
+      return true;
+  } else if (event->type() == QEvent::InputMethod) {
+    auto &input = static_cast<QInputMethodEvent &>(*event);
+    const QString &commit = input.commitString();
+    if (isFull() && !(commit.isEmpty() && input.preeditString().isEmpty())) {
+      QGuiApplication::inputMethod()->reset();
+      return true;
+    }
+    const QLineEdit &edit = *cboName_.lineEdit();
+    const qsizetype room = kMostTyped - (edit.text().size() - edit.selectedText().size());
+    if (commit.size() > room)
+      input.setCommitString(commit.left(room), input.replacementStart(), input.replacementLength());
+  }
   return Dialog::eventFilter(watched, event);
 }
 
-// Neither Enter nor Escape is bound here.
+// Escape is not bound here.
 void frmNeu::keyPressEvent(QKeyEvent *event) { event->ignore(); }

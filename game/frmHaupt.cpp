@@ -10,6 +10,7 @@
 #include <QCursor>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 
 namespace {
 
@@ -119,7 +120,7 @@ void frmHaupt::buildFields() {
 
   picpFeld.setObjectName("picpFeld");
   picpFeld.setAccessibleName("Linkes Feld");
-  picpFeld.setCursor(QCursor(loadPicture("fadenkreuz"), 16, 16));
+  picpFeld.setCursor(loadPointer("fadenkreuz"));
   connect(&picpFeld, &PictureBox::pressed, this, &frmHaupt::picpFeld_MouseDown);
   piccFeld.setObjectName("piccFeld");
   piccFeld.setAccessibleName("Rechtes Feld");
@@ -208,6 +209,13 @@ void frmHaupt::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   painter.fillRect(0, kToolbarHeight, width(), 1, QColor(120, 140, 165));
   painter.fillRect(0, kToolbarHeight + 1, width(), kGap - 1, QColor(20, 35, 60));
+}
+
+// A click on the window while a dialog blocks it must not take the keys from the dialog.
+bool frmHaupt::event(QEvent *event) {
+  if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked)
+    windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, event->type() == QEvent::WindowBlocked);
+  return QWidget::event(event);
 }
 
 void frmHaupt::closeEvent(QCloseEvent *event) {

@@ -52,6 +52,7 @@ public:
   int BombenZahl(int side) const { return BombenZahl_[static_cast<std::size_t>(side)]; }
 
 protected:
+  bool event(QEvent *event) override;
   void closeEvent(QCloseEvent *event) override;
   bool eventFilter(QObject *watched, QEvent *event) override;
   void keyReleaseEvent(QKeyEvent *event) override;

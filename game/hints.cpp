@@ -24,7 +24,8 @@ bool isPress(const QEvent &event) {
 void frmHaupt::buildHints() {
   TTip_.setStyle(HintServer::kBalloon);
   TTip_.SetTitle("Spielhilfe", HintServer::kInformation);
-  TTip_.AddTool(*this, kTool);
+  // Below the toolbar, whose buttons it speaks of.
+  TTip_.AddTool(*this, rect().adjusted(0, picHinten.y(), 0, 0), kTool);
   connect(&TTip_, &HintServer::NeedText, this, [](int ID, QString &TTText) {
     TTText = ID == kTool ? "Drücke  'Neues Spiel'\nund der Spaß kann losgehen!"
                          : "Upps was ist das denn ?";

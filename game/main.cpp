@@ -1,7 +1,7 @@
-#include "Main.h"
-
 #include "ClockDraw.h"
 #include "late.h"
+#include "scale.h"
+#include "startup.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -13,8 +13,7 @@ constexpr int kSoundDelay = 300; // ms
 }
 
 int main(int argc, char **argv) {
-  // Whole steps keep the grid lines sharp.
-  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
+  keepScalesWhole();
   const QApplication app(argc, argv);
   dressApplication();
 

@@ -79,7 +79,7 @@ void frmHaupt::startGame(int size, const QString &name) {
 
 void frmHaupt::picpFeld_MouseDown(Qt::MouseButton button, int X, int Y) {
   closeHint();
-  if (closed() || Modus_ == Over || button != Qt::LeftButton)
+  if (closed() || button != Qt::LeftButton)
     return;
   const auto cell = cellAt(X, Y, picpFeld.innerWidth(), picpFeld.innerHeight(), Grid->CellSize());
   if (!cell)

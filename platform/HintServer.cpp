@@ -31,7 +31,7 @@ const QColor kBlue(30, 100, 200);
 /// system to be transparent, and to let presses through to what it covers.
 class Balloon : public QWidget {
 public:
-  explicit Balloon(QWidget &window, const QFont &font) : QWidget(&window) {
+  Balloon(QWidget &window, const QRect &area, const QFont &font) : QWidget(&window), area_(area) {
     setObjectName("balloon");
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFont(font);
@@ -57,7 +57,7 @@ public:
   void pointTo(const QPoint &pointer) {
     const QWidget &window = *parentWidget();
     const QRect visible = screen()->availableGeometry().translated(-window.mapToGlobal(QPoint()));
-    const QRect area = window.rect() & visible;
+    const QRect area = area_ & visible;
     isAbove_ = pointer.y() - kAbovePointer - height() >= area.top();
     const int top = isAbove_ ? pointer.y() - kAbovePointer - height() : pointer.y() + kBelowPointer;
     const int left =
@@ -118,6 +118,7 @@ private:
     return bold;
   }
 
+  const QRect area_;
   QString title_;
   QString text_;
   bool hasIcon_ = false;
@@ -142,11 +143,12 @@ void HintServer::SetTitle(const QString &title, int icon) {
   update();
 }
 
-void HintServer::AddTool(QWidget &window, int ID) {
+void HintServer::AddTool(QWidget &window, const QRect &area, int ID) {
+  area_ = area;
   ID_ = ID;
   text_.clear();
   tracks_ = false;
-  balloon_ = std::make_unique<Balloon>(window, font_);
+  balloon_ = std::make_unique<Balloon>(window, area, font_);
 }
 
 void HintServer::DelTool(int ID) {
@@ -169,11 +171,11 @@ void HintServer::setActive(bool active) {
 void HintServer::Track(bool on, int ID) {
   if (ID != ID_ || !balloon_)
     return;
-  const QWidget &window = *balloon_->parentWidget();
-  const QPoint pointer = window.mapFromGlobal(QCursor::pos());
+  const QPoint pointer = balloon_->parentWidget()->mapFromGlobal(QCursor::pos());
   tracks_ = on;
   update();
-  MoveTo({std::clamp(pointer.x(), 0, window.width()), std::clamp(pointer.y(), 0, window.height())});
+  MoveTo({std::clamp(pointer.x(), area_.left(), area_.right() + 1),
+          std::clamp(pointer.y(), area_.top(), area_.bottom() + 1)});
 }
 
 void HintServer::MoveTo(const QPoint &tip) {

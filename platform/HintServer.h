@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QObject>
 #include <QPoint>
+#include <QRect>
 #include <QString>
 
 #include <memory>
@@ -10,8 +11,8 @@
 class Balloon;
 
 /// Balloon hints over one window: a rounded frame with a tip at the pointer, a title with an icon,
-/// lines of text. A balloon stays inside the window and on the screen, takes neither focus nor
-/// presses, and keeps its own light colours on every desktop.
+/// lines of text. A balloon stays inside an area of the window and on the screen, takes neither
+/// focus nor presses, and keeps its own light colours on every desktop.
 class HintServer : public QObject {
   Q_OBJECT
 
@@ -26,8 +27,9 @@ public:
   void setStyle(int Style);
   void SetTitle(const QString &title, int icon);
 
-  /// Registers a window under a number, in place of the one before.
-  void AddTool(QWidget &window, int ID);
+  /// Registers a window under a number, in place of the one before, with the area for its balloon,
+  /// in pixels of the window.
+  void AddTool(QWidget &window, const QRect &area, int ID);
   /// The operations on a number that is not registered do nothing.
   void DelTool(int ID);
   /// Lines are divided by "\n". Until a text is set, each showing asks for it by `NeedText`.
@@ -36,7 +38,7 @@ public:
   /// The balloon is seen while the server is active, as it is at first, and tracks its tool.
   bool Active() const { return active_; }
   void setActive(bool active);
-  /// Begins at the pointer, or where the window is nearest to it.
+  /// Begins at the pointer, or where the area is nearest to it.
   void Track(bool on, int ID);
   /// Moves the tip to a pixel of the window.
   void MoveTo(const QPoint &tip);
@@ -51,6 +53,7 @@ private:
   int style_ = 0;
   QString title_;
   int icon_ = 0;
+  QRect area_;
   int ID_ = 0;
   QString text_;
   bool active_ = true;

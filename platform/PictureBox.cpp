@@ -141,10 +141,18 @@ bool PictureBox::event(QEvent *event) {
     setPointer(static_cast<QMouseEvent *>(event)->pos() - QPoint(kBorder, kBorder));
   else if (event->type() == QEvent::Leave)
     setPointer(std::nullopt);
+  else if (event->type() == QEvent::WindowBlocked)
+    wasPressed_ = false;
   return QWidget::event(event);
 }
 
+void PictureBox::mouseDoubleClickEvent(QMouseEvent *event) {
+  if (wasPressed_)
+    mousePressEvent(event);
+}
+
 void PictureBox::mousePressEvent(QMouseEvent *event) {
+  wasPressed_ = true;
   // The pixel under the pointer: a fraction, on dense screens, belongs to the pixel that it is in.
   const QPointF position = event->position();
   emit pressed(event->button(), qFloor(position.x()) - kBorder, qFloor(position.y()) - kBorder);

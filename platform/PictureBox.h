@@ -54,12 +54,14 @@ public:
   QString seenUnderPointer() const;
 
 signals:
-  /// A press on the box, in pixels of the drawing area; negative or beyond it on the border.
+  /// A press on the box, in pixels of the drawing area; negative or beyond it on the border. The
+  /// second press of a double click counts, unless the first one has closed a dialog over the box.
   void pressed(Qt::MouseButton button, int x, int y);
 
 protected:
   bool event(QEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
+  void mouseDoubleClickEvent(QMouseEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -75,4 +77,5 @@ private:
   QSize cell_;
   std::optional<QPoint> pointer_; ///< in the drawing area
   QString told_;
+  bool wasPressed_ = false; ///< since the last dialog
 };

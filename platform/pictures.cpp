@@ -25,3 +25,12 @@ QPixmap loadPicture(const QString &name) {
   const bool dense = qApp->devicePixelRatio() > 1;
   return QPixmap::fromImage(loadImage(dense ? name + "@2x" : name));
 }
+
+QCursor loadPointer(const QString &name) {
+  const QPixmap picture = loadPicture(name);
+  QSizeF centre = picture.deviceIndependentSize() / 2;
+  // Qt scales the hot spot with the picture everywhere but on X11.
+  if (QGuiApplication::platformName() == "xcb")
+    centre *= picture.devicePixelRatio();
+  return QCursor(picture, qRound(centre.width()), qRound(centre.height()));
+}

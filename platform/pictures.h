@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QImage>
 #include <QPixmap>
 #include <QString>
@@ -10,6 +11,9 @@ QImage loadImage(const QString &name);
 
 /// The picture in the size of the design; on screens of twice the density its double-size version.
 QPixmap loadPicture(const QString &name);
+
+/// A pointer that looks like the picture and points with its centre.
+QCursor loadPointer(const QString &name);
 
 /// What stands before the pixels of a picture that is carried decoded (see tools/decode_pictures).
 /// The pixels have 32 bits each.

@@ -2,7 +2,7 @@
 // with a picture of each phase.
 
 #include "ClockDraw.h"
-#include "Main.h"
+#include "startup.h"
 #include "Robot.h"
 #include "players.h"
 

@@ -166,6 +166,7 @@ void HelpWindow::showKeyword(const QModelIndex &keyword) {
 
 void HelpWindow::open(HelpViewer::Entry entry) {
   tabs_.setCurrentIndex(entry == HelpViewer::Entry::index ? 1 : 0);
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();

@@ -30,7 +30,8 @@ struct IntelliCombo : testing::Test {
     box.setCurrentIndex(-1);
     box.clearEditText();
   }
-  /// Types, one key a character: `<` is Backspace, `>` Delete, `{` Home, `}` End, `*` selects all.
+  /// Types, one key a character: `<` is Backspace, `>` Delete, `{` Home, `}` End, `*` selects all,
+  /// `v` drops the list down, `+` is Down, `~` Enter.
   void type(const QString &keys) {
     for (const QChar c : keys) {
       if (c == '<')
@@ -41,6 +42,12 @@ struct IntelliCombo : testing::Test {
         key(main, c == '{' ? Qt::Key_Home : Qt::Key_End);
       else if (c == '*')
         box.lineEdit()->selectAll();
+      else if (c == 'v')
+        box.showPopup();
+      else if (c == '+')
+        key(main, Qt::Key_Down);
+      else if (c == '~')
+        key(main, Qt::Key_Return, "\r");
       else
         key(main, Qt::Key(c.toUpper().unicode()), c);
     }
@@ -98,6 +105,11 @@ TEST_F(IntelliCombo, CompletesKeyByKey) {
       {"Ant*<<", " -1"},
       {"A*>", " -1"},
       {"Ant*>>", " -1"},
+      {"vx~", "x -1"}, // the open list takes no key from the text
+      {"van", "An[na] 0"},
+      {"Antv<", "Ant 1"},
+      {"Annaxv~", "Annax 0"}, // nor an entry over it
+      {"xv++~", "Anton 1"},
   };
   for (const auto &[keys, expected] : cases) {
     fill(entries());

@@ -18,6 +18,13 @@ TEST(frmMeldung, EachWayOutHasItsAnswer) {
       {"Nein", click("cmdAbbruch"), false},
       {"Alt+N", press(Qt::Key_N, "n", Qt::AltModifier), false},
       {"Space on Ja", press(Qt::Key_Space, " "), true},
+      {"Enter on Ja", press(Qt::Key_Return, "\r"), true},
+      {"Enter on Nein",
+       [](QDialog &box) {
+         Robot::control(box, "cmdAbbruch").setFocus();
+         key(box, Qt::Key_Enter, "\r", Qt::KeypadModifier);
+       },
+       false},
   };
   MainWindow main;
   for (const auto &[way, deed, answer] : cases) {
@@ -25,12 +32,6 @@ TEST(frmMeldung, EachWayOutHasItsAnswer) {
     Robot::onDialog([&, text = way, &act = deed](QDialog &box) {
       EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
       EXPECT_EQ(Robot::control<QLabel>(box, "lblMeldung").text(), text);
-      for (const char *focus : {"cmdAbbruch", "cmdOK"}) {
-        Robot::control(box, focus).setFocus();
-        key(box, Qt::Key_Return, "\r");
-        key(box, Qt::Key_Enter, "\r", Qt::KeypadModifier);
-        EXPECT_TRUE(box.isVisible());
-      }
       act(box);
       EXPECT_TRUE(closes(box));
       box.hide(); // so that a fault doesn't hang the test

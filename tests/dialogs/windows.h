@@ -32,10 +32,12 @@ struct RecordingStore : SettingsStore {
   }
 };
 
-/// A key as the window system delivers it: with the text that it types, to where the focus is.
+/// A key as the window system delivers it: with the text that it types, to a list that is dropped
+/// down or where the focus is.
 inline void key(QWidget &window, Qt::Key code, const QString &text = {},
                 Qt::KeyboardModifiers modifiers = {}) {
-  QWidget *focus = window.focusWidget();
+  QWidget *list = QApplication::activePopupWidget();
+  QWidget *focus = (list ? list : &window)->focusWidget();
   QTest::sendKeyEvent(QTest::Click, focus ? focus : &window, code, text, modifiers);
 }
 

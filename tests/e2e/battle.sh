@@ -224,7 +224,6 @@ red() {
 
 is_over() { see && [[ $mine = 000000 || $theirs = 000000 ]]; }
 has_moved() { see && [ "$left$right$mine$theirs" != "$before" ]; }
-has_fired() { see && ((shots > 0)); }
 
 # Every shot but a winning one got one reply; the left field shows the computer's whole fleet.
 is_final() {
@@ -281,7 +280,7 @@ press main 315 31
 answer $ja
 await_end "Ja"
 
-# A close request while the game waits between shots.
+# A close request goes before the turns of forty presses, and before the question about the fleet.
 start
 new_game "$tmp/jorg.png" J o r g
 dots=$(convert "$tmp/joerg.png" "$tmp/jorg.png" -compose difference -composite -trim \
@@ -289,9 +288,12 @@ dots=$(convert "$tmp/joerg.png" "$tmp/jorg.png" -compose difference -composite -
 [[ $dots == [1-9]x[1-5] ]] || fail "Jörg and Jorg differ in $dots pixels; expected two dots"
 set_and_discard
 set_fleet
-press_cells "${cells[@]:0:10}"
-poll 30 has_fired || fail "expected a shot"
-request_close
-await_end "the close request"
+presser=press_and_close press_cells "${cells[@]:0:40}"
+await_end "forty presses and a close request"
+start
+new_game "$tmp/again.png" J o r g
+read -ra fleet <<<"${boats[*]}"
+presser=press_and_close press_cells "${fleet[@]}"
+await_end "the last boat and a close request"
 
 echo "passed in $SECONDS s: $result"

@@ -68,7 +68,7 @@ has_ended() { ! kill -0 "$game" 2>/dev/null; }
 
 # Pressing. Afterwards the pointer stands aside, where it lights up nothing.
 
-# press main|dialog X Y [X Y]...
+# press main|dialog X Y [X Y]...; with presser=press_and_close the main window is closed right after
 press() {
   local x=${wx[$1]} y=${wy[$1]} chain=()
   shift
@@ -76,12 +76,15 @@ press() {
     chain+=(mousemove $((x + $1)) $((y + $2)) click 1)
     shift 2
   done
-  xdotool "${chain[@]}" mousemove 1 1
+  ${presser-xdotool} "${chain[@]}" mousemove 1 1
 }
 
-request_close() {
-  python3 - "${window[main]}" <<'PYTHON'
-import ctypes, sys
+request_close() { press_and_close version >/dev/null; }
+
+# press_and_close COMMAND OF XDOTOOL...: what a click on the close box sends, at once after the command
+press_and_close() {
+  python3 - "${window[main]}" "$@" <<'PYTHON'
+import ctypes, subprocess, sys
 from ctypes import c_char_p, c_int, c_long, c_ulong, c_void_p
 
 class ClientMessage(ctypes.Structure):
@@ -95,6 +98,7 @@ x.XSendEvent.argtypes = [c_void_p, c_ulong, c_int, c_long, c_void_p]
 x.XCloseDisplay.argtypes = [c_void_p]
 display, window = x.XOpenDisplay(None), int(sys.argv[1])
 protocols, close = (x.XInternAtom(display, name, 0) for name in (b"WM_PROTOCOLS", b"WM_DELETE_WINDOW"))
+subprocess.run(["xdotool", *sys.argv[2:]], check=True)
 event = ClientMessage(33, 0, 1, display, window, protocols, 32, (close,))
 x.XSendEvent(display, window, 0, 0, ctypes.byref(event))
 x.XCloseDisplay(display)

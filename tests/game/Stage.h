@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Main.h"
 #include "Robot.h"
 #include "ScriptedDraw.h"
 #include "printQt.h"
+#include "startup.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -15,6 +15,18 @@ Log sounds(Log log) {
   return log;
 }
 
+// As the window system queues it.
+void queueClick(QWidget &control, QPoint at) {
+  QWindow *handle = control.window()->windowHandle();
+  const QPointF local = control.mapTo(control.window(), at);
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+    QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
+        handle, local, handle->mapToGlobal(local),
+        type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type);
+}
+
+QPoint middleOf(const Cell &cell) { return QPoint(25 * cell.X - 12, 25 * cell.Y - 12); }
+
 TEST_F(Battle, TurnPaintsThenWaitsThenReplies) {
   startBattle(1);
   const std::pair<int, const char *> turns[] = {
@@ -55,19 +67,11 @@ TEST_F(Battle, ComputerWinsAndShowsWhatWasLeft) {
 // and a toolbar command waits as well.
 TEST_F(Battle, QueuedPressesDoNotNest) {
   startBattle(1);
-  const auto queue = [&](const QString &name, QPoint at) {
-    QWindow *handle = window->windowHandle();
-    const QPointF local = control(name).mapTo(window.get(), at);
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-      QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
-          handle, local, handle->mapToGlobal(local),
-          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type);
-  };
   const Cell first = fresh(8); // sinks: events run twice in its turn
   for (const Cell &cell : {first, fresh(7), fresh(7), fresh(0)})
-    queue("picpFeld", QPoint(25 * cell.X - 12, 25 * cell.Y - 12));
+    queueClick(control("picpFeld"), middleOf(cell));
   Robot::answer("cmdAbbruch"); // the question of the last command
-  queue("keyEnde", {45, 30});
+  queueClick(control("keyEnde"), {45, 30});
   for (int i = 0; i < 20; ++i)
     QCoreApplication::processEvents();
 
@@ -77,6 +81,17 @@ TEST_F(Battle, QueuedPressesDoNotNest) {
   EXPECT_EQ(log, (Log{"LC wait Versenkt", "reply", "LC wait Versenkt", "reply", "wait Doppelt",
                       "L wait Wasser", "reply"}));
   EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(Battle, ACloseWaitsForNoQueuedPress) {
+  startBattle(1);
+  for (const Cell &cell : {fresh(1), fresh(2), fresh(3)})
+    queueClick(control("picpFeld"), middleOf(cell));
+  QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::AsynchronousDelivery>(
+      window->windowHandle());
+  for (int i = 0; i < 20; ++i)
+    QCoreApplication::processEvents();
+  EXPECT_EQ(sound.log, Log{"start silence"}) << "not even the first turn goes on";
 }
 
 TEST_F(Battle, SoundOffKeepsThePaceFromTheNextSoundOn) {

@@ -53,6 +53,7 @@ TEST_F(End, HumanIsFiledThenCelebratedThenShown) {
   EXPECT_TRUE(seen);
   EXPECT_EQ(sound.log.back(), "start silence") << "the jingle stops";
   EXPECT_EQ(window->Modus(), frmHaupt::Over);
+  EXPECT_FALSE(control("picpFeld").isEnabled());
   EXPECT_EQ(window->Bomben(), "17");
 }
 

@@ -1,5 +1,8 @@
 #include "Stage.h"
 
+#include <QApplication>
+#include <QMouseEvent>
+
 namespace {
 
 using FleetSetup = Stage;
@@ -81,6 +84,11 @@ TEST_F(FleetSetup, WholeFleetIsAskedForAndMoves) {
   EXPECT_EQ(counters(),
             (std::vector<QString>{"0", "0", "1", "2", "2", "3", "0", "0", "1", "2", "2", "3"}));
 
+  // The second press of a double click on Ja is none on the field below.
+  const QPointF place(13, 13);
+  QMouseEvent second(QEvent::MouseButtonDblClick, place, place, Qt::LeftButton, Qt::LeftButton, {});
+  QApplication::sendEvent(&control("picpFeld"), &second);
+
   // The left field is water again, the right one shows the fleet.
   const QImage left = field("picpFeld").content(), right = field("piccFeld").content();
   for (int Y = 1; Y <= 8; ++Y)
@@ -96,12 +104,14 @@ TEST_F(FleetSetup, WholeFleetIsAskedForAndMoves) {
 TEST_F(FleetSetup, NeinStartsOverWithANewFleetOfTheComputer) {
   newGame(1);
   const std::string before = window->grid()->toText();
+  const QImage water = field("picpFeld").content();
   const Cell last = robot->setFleetButOne(draw);
   Robot::answer("cmdAbbruch");
   robot->press(last);
   EXPECT_EQ(window->Modus(), frmHaupt::Setup);
   EXPECT_EQ(counters()[5], "3");
   EXPECT_NE(window->grid()->toText(), before);
+  EXPECT_EQ(field("picpFeld").content(), water);
   robot->press(Cell{1, 1});
   EXPECT_EQ(window->grid()->PBoote(1).cell(1), (Cell{1, 1}));
   newGame(1); // in the middle of a boat: from the beginning as well

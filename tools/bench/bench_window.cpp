@@ -2,7 +2,7 @@
 // field. Without a screen; QT_QPA_PLATFORM=xcb measures in a real window.
 
 #include "ClockDraw.h"
-#include "Main.h"
+#include "startup.h"
 #include "Robot.h"
 #include "players.h"
 

@@ -1,4 +1,4 @@
-#include "Main.h"
+#include "startup.h"
 
 #include "EventPump.h"
 #include "controls.h"

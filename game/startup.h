@@ -6,7 +6,7 @@
 #include <memory>
 
 /// What the application as a whole needs before its first window: name, look, fonts that keep the
-/// layout. Call it once, behind the making of the `QApplication`.
+/// layout. Call it once, after the `QApplication` is made.
 void dressApplication();
 
 /// Starts the game: fills the globals and shows the main window. From here on window events drive
