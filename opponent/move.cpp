@@ -7,6 +7,7 @@
 #include "clsGrid.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 std::vector<Cell> clsGrid::ShotList() {
@@ -28,8 +29,9 @@ bool clsGrid::OnlySinglesLeft() const {
 }
 
 ShotCode clsGrid::ComputerShoot() {
-  // 1. List, shuffle, choose.
+  // 1. List, shuffle, choose. While the human has a boat, some cell is always worth a shot.
   std::vector<Cell> list = ShotList();
+  assert(!list.empty());
   const int n = static_cast<int>(list.size());
   const auto drawn = [&] { return static_cast<std::size_t>(draw_.draw(n) - 1); };
   for (int i = 0; i < 2 * n; ++i) {
