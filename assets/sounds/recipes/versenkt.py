@@ -14,7 +14,7 @@ def cook(k):
         bit = k.filter(k.noise(.04), "band", k.chance.uniform(600, 3000), 2)
         k.add(t, k.fall(bit, .04), 0.5 * (1 - t))
     # The long fall: two tones sinking with the hull.
-    for start, gain in ((660, .19), (495, .16)):
+    for start, gain in ((660, .30), (495, .25)):
         path = [(.1 * i, start * 0.8 ** (1.1 * i)) for i in range(15)]
         tone = k.sine(path, 1.35)
         tone = [s + .4 * s * s * s for s in tone]
