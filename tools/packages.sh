@@ -12,6 +12,7 @@ ninja-build        ninja
 qt6-base-dev       /usr/lib*/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake
 qt6-tools-dev      /usr/lib*/cmake/Qt6Help/Qt6HelpConfig.cmake
 qt6-documentation-tools /usr/lib/qt6/libexec/qhelpgenerator
+qt6-wayland        /usr/lib/*/qt6/plugins/platforms/libqwayland-generic.so
 libqt6sql6-sqlite  /usr/lib/*/qt6/plugins/sqldrivers/libqsqlite.so
 libgl-dev          /usr/include/GL/gl.h
 libsdl2-dev        /usr/include/SDL2/SDL.h
