@@ -1,11 +1,10 @@
 // What the leak checker is told. A file of suppressions would have to be named in an option, where
 // a path with a space or a colon falls apart.
 
-extern "C" const char *__lsan_default_suppressions();
-extern "C" const char *__lsan_default_options();
+// NOLINTBEGIN(bugprone-reserved-identifier): the names that the checker looks for
 
 // Leaks of libraries, none of ours.
-const char *__lsan_default_suppressions() {
+extern "C" const char *__lsan_default_suppressions() {
   return "leak:libfontconfig\n"
          "leak:libdbus\n"
          "leak:libglib\n"
@@ -14,4 +13,8 @@ const char *__lsan_default_suppressions() {
 }
 
 // Without the last option the leak checker of GCC 12 stumbles over libraries that SDL loads late.
-const char *__lsan_default_options() { return "print_suppressions=0:intercept_tls_get_addr=0"; }
+extern "C" const char *__lsan_default_options() {
+  return "print_suppressions=0:intercept_tls_get_addr=0";
+}
+
+// NOLINTEND(bugprone-reserved-identifier)
