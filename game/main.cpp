@@ -6,15 +6,32 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace {
 
 constexpr int kSoundDelay = 300; // ms
 
+/// Where Qt finds no screen it would end the program with an English text.
+void tellNoScreen(QtMsgType type, const QMessageLogContext &context, const QString &text) {
+  if (type != QtFatalMsg) {
+    std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    return;
+  }
+  std::fputs("Korvel findet keinen Bildschirm. Läuft eine grafische Sitzung? Unter Wayland gehört "
+             "das Paket qt6-wayland dazu.\n",
+             stderr);
+  std::_Exit(1);
 }
+
+} // namespace
 
 int main(int argc, char **argv) {
   keepScalesWhole();
+  qInstallMessageHandler(tellNoScreen);
   const QApplication app(argc, argv);
+  qInstallMessageHandler(nullptr);
   dressApplication();
 
   ClockDraw draw;

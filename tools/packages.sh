@@ -1,4 +1,5 @@
-# Sourced by play and check: installs the Debian packages that are missing.
+# Sourced by play, check and tools/fuzz in the root: installs the Debian packages that are missing,
+# and configures.
 #
 # A package counts as there when its probe is: a command, or a file. So nothing is asked of a
 # package manager when all is there, and other systems than Debian can be served by hand.
@@ -11,6 +12,7 @@ ninja-build        ninja
 qt6-base-dev       /usr/lib*/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake
 qt6-tools-dev      /usr/lib*/cmake/Qt6Help/Qt6HelpConfig.cmake
 qt6-documentation-tools /usr/lib/qt6/libexec/qhelpgenerator
+qt6-wayland        /usr/lib/*/qt6/plugins/platforms/libqwayland-generic.so
 libqt6sql6-sqlite  /usr/lib/*/qt6/plugins/sqldrivers/libqsqlite.so
 libgl-dev          /usr/include/GL/gl.h
 libsdl2-dev        /usr/include/SDL2/SDL.h
@@ -86,7 +88,30 @@ ensure_packages() {
   fi
 }
 
-# configure PRESET TREE: makes the build tree unless it stands
+# begin: ends in a folder where nothing can be built; else waits until nobody else installs or builds
+# in this one, which stays locked as file 9
+begin() {
+  case $PWD in
+  *[]\[\#\;\"\\\<\>\|\*\?]* | *'${'* | *'$('* | *$'\n'*)
+    echo "CMake and Qt can't build in a folder whose path has one of  [ ] # ; \" \\ < > | * ? \${ \$(" \
+      "or a new line. Please rename or move $PWD" >&2
+    exit 1
+    ;;
+  esac
+  exec 9<.
+  command -v flock >/dev/null || return 0
+  flock -n 9 || { echo "Waiting for another build in this folder" >&2 && flock 9; } || true
+}
+
+# configure PRESET TREE: makes the build tree unless it stands. One that was copied or moved here
+# still means its old folder, so it is made again; files that no build makes stay in it.
 configure() {
-  [ -f "$2/build.ninja" ] || cmake --preset "$1" -Wno-dev
+  local home=''
+  [ ! -f "$2/CMakeCache.txt" ] ||
+    home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$2/CMakeCache.txt")
+  if ! [ "$home" -ef . ]; then
+    cmake --fresh --preset "$1" -Wno-dev
+  elif ! [ "$2/build.ninja" -nt CMakePresets.json ]; then
+    cmake --preset "$1" -Wno-dev
+  fi
 }
