@@ -64,6 +64,7 @@ TEST_F(Heard, IsWhatTheGameCalledFor) {
   qputenv("SDL_DISKAUDIOFILE", file.toLocal8Bit());
   qputenv("SDL_DISKAUDIODELAY", "5"); // ms a buffer of 23, so that no wait is too short
   LoggedSound logged;
+  ASSERT_TRUE(QTest::qWaitFor([&] { return logged.device.open(); }, 30'000));
   robot.reset();
   window = Main(globals, {draw, logged, store, messages, help}, folder.path());
   robot.emplace(*window);
