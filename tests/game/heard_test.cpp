@@ -117,10 +117,11 @@ TEST_F(Heard, IsWhatTheGameCalledFor) {
     for (int faded = 0; faded <= SdlSound::kFadeFrames && from < heard.size() && !begins(from);
          ++faded)
       from = skipSilence(heard, from + 1);
-    if (from < heard.size() && begins(from))
+    const bool begun = from < heard.size() && begins(from); // not if it was cut before a frame
+    if (begun)
       at = from;
     std::size_t length = 0; // of the part that is heard
-    while (first + length < whole.size() && at + length < heard.size() &&
+    while (begun && first + length < whole.size() && at + length < heard.size() &&
            heard[at + length] == whole[first + length])
       ++length;
     const bool toEnd = first + length == whole.size();
