@@ -14,6 +14,9 @@
 
 namespace {
 
+constexpr qint64 kLargestFile = 16'000'000; // bytes: a million names, four seconds
+constexpr qsizetype kLongestEntry = 1000;   // bytes; to lay out very long texts takes minutes
+
 QString DropFirst(const QString &text) { return text.mid(1); }
 QString DropLast(const QString &text) { return text.chopped(text.isEmpty() ? 0 : 1); }
 
@@ -54,7 +57,9 @@ bool clsIntelliCombo::Load(const QString &Filename, bool Append) {
   if (!content)
     return false;
   for (QByteArrayView rest = *content; !rest.isEmpty();) {
-    addEntry(QString::fromStdString(fromWindows1252(takeLine(rest).toStdString())));
+    const QByteArray line = takeLine(rest);
+    if (line.size() <= kLongestEntry)
+      addEntry(QString::fromStdString(fromWindows1252(line.toStdString())));
     letEventsRun();
   }
   return true;
@@ -66,6 +71,10 @@ std::optional<QByteArray> clsIntelliCombo::contentOf(const QString &Filename) {
   // Anything but a plain file could keep the program waiting for ever.
   if (!QFileInfo(Filename).isFile() || !file.open(QIODevice::ReadOnly)) {
     lastError_ = QFileDevice::OpenError;
+    return std::nullopt;
+  }
+  if (file.size() > kLargestFile) {
+    lastError_ = QFileDevice::ResourceError;
     return std::nullopt;
   }
   QByteArray content = file.readAll();

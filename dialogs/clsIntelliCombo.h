@@ -41,8 +41,8 @@ public:
 
   /// Fills the list from a file of that form; a lone CR or LF ends a line too, and the last line
   /// needs no end. Unless `Append` the list is cleared before, and the text with it, whether or not
-  /// the file can be read. Lets events run after each line. False if the file can't be read to its
-  /// end.
+  /// the file can be read. Lets events run after each line. Lines of more than 1000 bytes are
+  /// passed over. False if the file can't be read to its end, or has more than 16 MB.
   bool Load(const QString &Filename, bool Append = false);
 
 protected:

@@ -117,8 +117,9 @@ void frmHaupt::mouseMoveEvent(QMouseEvent *event) {
 void frmHaupt::mousePressEvent(QMouseEvent *) { closeHint(); }
 
 void frmHaupt::DoHilfe(HelpViewer::Entry entry) {
-  if (!services_.help.show(globals_.HelpPath, entry))
-    services_.messages.warning("Korvel", "Die Hilfedatei fehlt oder ist beschädigt.");
+  const QString failure = services_.help.show(globals_.HelpPath, entry);
+  if (!failure.isEmpty())
+    services_.messages.warning("Korvel", failure);
 }
 
 void frmHaupt::keyReleaseEvent(QKeyEvent *event) {

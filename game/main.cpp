@@ -12,6 +12,10 @@
 namespace {
 
 constexpr int kSoundDelay = 300; // ms
+constexpr const char *kNoFolder =
+    "Korvel findet seinen eigenen Ordner nicht. Wenn in dessen Namen oder in dem eines Ordners "
+    "darüber fehlerhafte Zeichen stehen (kein UTF-8), benenne ihn um und starte Korvel noch "
+    "einmal.";
 
 /// Where Qt finds no screen it would end the program with an English text.
 void tellNoScreen(QtMsgType type, const QMessageLogContext &context, const QString &text) {
@@ -34,14 +38,18 @@ int main(int argc, char **argv) {
   qInstallMessageHandler(nullptr);
   dressApplication();
 
+  const QString folder = app.applicationDirPath();
+  if (folder.isEmpty()) { // a name that QString can't hold, or no /proc
+    QtMessageBox().critical("Korvel", kNoFolder);
+    return 1;
+  }
   ClockDraw draw;
   LateSound sound;
   QtSettingsStore settings;
   QtMessageBox messages;
   LateHelp help;
   Globals globals;
-  const auto window =
-      Main(globals, {draw, sound, settings, messages, help}, app.applicationDirPath());
+  const auto window = Main(globals, {draw, sound, settings, messages, help}, folder);
   // Opening the sound card can take longer than the whole start, so the first frames come before.
   QTimer::singleShot(kSoundDelay, [&] { sound.open(); });
   return QApplication::exec();

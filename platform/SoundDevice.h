@@ -14,8 +14,8 @@ class SoundDevice {
 public:
   virtual ~SoundDevice() = default;
 
-  /// Gets ready for the first sound. Costs tens of milliseconds, so it is best called when nobody
-  /// waits. False if nothing can be heard now.
+  /// Begins to get ready for the first sound, which may take longer than the call. Costs
+  /// milliseconds, so it is best called when nobody waits. Whether it is ready.
   virtual bool open() { return true; }
 
   /// Cuts the sound that is playing and starts this one; an empty buffer only stops. Returns at

@@ -23,9 +23,10 @@ bool LateSound::playToEnd(const Klang &klang) {
   return device && device->playToEnd(klang);
 }
 
-bool LateHelp::show(const QString &file, Entry entry) {
+QString LateHelp::show(const QString &file, Entry entry) {
   HelpViewer *viewer = viewer_.get();
-  return viewer && viewer->show(file, entry);
+  return viewer ? viewer->show(file, entry)
+                : "Die Hilfe lässt sich nicht laden: libhilfe.so oder was sie braucht, fehlt.";
 }
 
 void LateHelp::close() {

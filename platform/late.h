@@ -54,7 +54,7 @@ private:
 /// The help window of the module `hilfe`.
 class LateHelp : public HelpViewer {
 public:
-  bool show(const QString &file, Entry entry) override;
+  QString show(const QString &file, Entry entry) override;
   void close() override;
 
 private:

@@ -7,8 +7,6 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <memory>
 #include <string_view>
@@ -53,14 +51,15 @@ void createIfMissing(const fs::path &path) {
     File(std::fopen(path.string().c_str(), "ab"));
 }
 
-bool sameContent(const fs::path &a, const fs::path &b) {
-  std::error_code error;
-  if (fs::file_size(a, error) != fs::file_size(b, error) || error)
-    return false;
-  std::ifstream left(a, std::ios::binary);
-  std::ifstream right(b, std::ios::binary);
-  using Bytes = std::istreambuf_iterator<char>;
-  return std::equal(Bytes(left), Bytes(), Bytes(right), Bytes());
+/// The bytes of the table, fewer if the file ends early; nothing if it can't be read. What a save
+/// leaves alone, however much, is not read.
+std::optional<std::string> readTable(const fs::path &path) {
+  const File file = openPlain(path, "rb", Turn::reading);
+  if (!file)
+    return std::nullopt;
+  std::string bytes(kFile, '\0');
+  bytes.resize(std::fread(bytes.data(), 1, kFile, file.get()));
+  return std::ferror(file.get()) ? std::nullopt : std::optional(bytes);
 }
 
 /// Takes the next record off the file's bytes; nothing if it is impossible or not all there.
@@ -96,12 +95,8 @@ int Score::Row::bombs() const {
 
 Score::Loaded Score::LoadScore() {
   createIfMissing(file_);
-  std::string content(kFile, '\0');
-  const File file = openPlain(file_, "rb", Turn::reading);
-  content.resize(file ? std::fread(content.data(), 1, kFile, file.get()) : 0);
-  const bool readable = file && !std::ferror(file.get());
-
-  std::string_view bytes = content;
+  const std::optional<std::string> content = readTable(file_);
+  std::string_view bytes = content ? *content : std::string_view();
   bool intact = true;
   for (List &places : lists_)
     for (int place = 1; place <= kPlaces; ++place) {
@@ -114,9 +109,9 @@ Score::Loaded Score::LoadScore() {
     }
   if (isMissing(file_)) // and could not be created
     return Loaded::fresh;
-  if (!readable)
+  if (!content)
     return Loaded::unreadable;
-  if (content.empty())
+  if (content->empty())
     return Loaded::fresh;
   return intact ? Loaded::whole : Loaded::damaged;
 }
@@ -193,13 +188,15 @@ void Score::keepIntactRows() {
   }
 }
 
-// The newest copy has the plain name; an older one gets the first number that is free. A folder
-// that cannot be written leaves the damaged file alone as it is, until the next save.
+// The copy is of the part that the next save writes over; what lies after it stays in the file. The
+// newest copy has the plain name; an older one gets the first number that is free. A folder that
+// cannot be written leaves the damaged file alone as it is, until the next save.
 void Score::copyDamagedFile() const {
   fs::path copy = file_;
   copy += ".defekt";
   std::error_code error;
-  if (sameContent(file_, copy)) // from an earlier start
+  const std::optional<std::string> bytes = readTable(file_);
+  if (!bytes || readTable(copy) == bytes) // from an earlier start
     return;
   if (fs::exists(copy, error)) {
     fs::path older;
@@ -210,6 +207,8 @@ void Score::copyDamagedFile() const {
     } while (fs::exists(older, error));
     fs::rename(copy, older, error);
   }
-  if (!error && !fs::copy_file(file_, copy, error) && error != std::errc::file_exists)
+  File file(error ? nullptr : std::fopen(copy.string().c_str(), "wbx"));
+  if (file && (std::fwrite(bytes->data(), 1, bytes->size(), file.get()) != bytes->size() ||
+               std::fclose(file.release()) != 0))
     fs::remove(copy, error); // a full disk has taken a part of it
 }

@@ -66,8 +66,8 @@ public:
   std::optional<int> EnterScore(int size, const std::string &name, int bombs);
 
   /// Start-up: loads, and makes the best of what it finds. A first start writes the reset state,
-  /// if it can. Of a damaged file, copied to `Score.hsc.defekt` beforehand, the intact rows stay;
-  /// an unreadable one leaves the reset state; nothing is written before the next save.
+  /// if it can. Of a damaged file, its table copied to `Score.hsc.defekt` beforehand, the intact
+  /// rows stay; an unreadable one leaves the reset state; nothing is written before the next save.
   Loaded loadAtStart();
   /// Whether the user is to be warned, with `kDamaged`.
   static bool isBroken(Loaded loaded) {

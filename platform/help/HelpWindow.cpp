@@ -9,14 +9,18 @@
 #include <QSplitter>
 #include <QStyle>
 #include <QTabBar>
+#include <QTemporaryFile>
+#include <QTimer>
 #include <QToolBar>
 
 #include <algorithm>
 
 namespace {
 
-constexpr QSize kWindow(860, 600);    // pixels
-constexpr int kNavigationWidth = 250; // pixels
+constexpr QSize kWindow(860, 600);         // pixels
+constexpr int kNavigationWidth = 250;      // pixels
+constexpr qsizetype kCollection = 250'000; // bytes that it takes at most while it is made
+constexpr std::chrono::seconds kSettled{1};
 
 } // namespace
 
@@ -48,7 +52,7 @@ HelpWindow::HelpWindow(const QString &file) : book_(folder_.filePath("buch.qhc")
 
   book_.setReadOnly(false);
   book_.setUsesFilterEngine(true);
-  if (!book_.setupData() || !book_.registerDocumentation(file))
+  if (!hasRoom() || !book_.setupData() || !book_.registerDocumentation(file))
     return;
   const QString space = QHelpEngineCore::namespaceName(file);
   const QList<QUrl> pages = book_.files(space, QString(), "html");
@@ -66,9 +70,25 @@ HelpWindow::HelpWindow(const QString &file) : book_(folder_.filePath("buch.qhc")
       enterTab();
   });
   pages_.setSource(home_);
+  // Without the folder a killed game leaves nothing. The collection is open; only what loads
+  // contents and index opens it once more, and Qt Help starts that several times in a row.
+  const auto removeLater = [this] {
+    QTimer::singleShot(kSettled, this, [this] {
+      if (!book_.contentModel()->isCreatingContents() && !book_.indexModel()->isCreatingIndex())
+        folder_.remove();
+    });
+  };
+  connect(book_.contentModel(), &QHelpContentModel::contentsCreated, this, removeLater);
+  connect(book_.indexModel(), &QHelpIndexModel::indexCreated, this, removeLater);
 }
 
 HelpWindow::~HelpWindow() = default;
+
+bool HelpWindow::hasRoom() const {
+  QTemporaryFile file(folder_.filePath("platz"));
+  return folder_.isValid() && file.open() &&
+         file.write(QByteArray(kCollection, 'x')) == kCollection && file.flush();
+}
 
 void HelpWindow::buildContents() {
   QHelpContentWidget *contents = book_.contentWidget();

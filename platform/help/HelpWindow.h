@@ -49,6 +49,8 @@ public:
 
   /// Whether the file is a help book.
   bool isReadable() const { return !home_.isEmpty(); }
+  /// Whether the folder for temporary files can take what Qt Help needs.
+  bool hasRoom() const;
 
   /// Comes to the front with the contents or the index.
   void open(HelpViewer::Entry entry);
@@ -64,7 +66,7 @@ private:
   void enterTab();
   void showKeyword(const QModelIndex &keyword);
 
-  QTemporaryDir folder_; ///< of the collection that Qt Help wants to have
+  QTemporaryDir folder_; ///< of the collection that Qt Help wants to have, until it is loaded
   QHelpEngine book_;
   QUrl home_; ///< the first page; empty if there is none
   QTabWidget tabs_;

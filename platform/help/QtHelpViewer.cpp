@@ -1,14 +1,27 @@
 #include "QtHelpViewer.h"
 
-bool QtHelpViewer::show(const QString &file, Entry entry) {
+#include <QFileInfo>
+
+namespace {
+
+constexpr const char *kNoBook = "Die Hilfedatei fehlt oder ist beschädigt.";
+constexpr const char *kNoRoom =
+    "Die Hilfe braucht etwas Platz im Ordner für Zwischendateien (TMPDIR). Der Ordner fehlt, ist "
+    "voll oder lässt sich nicht beschreiben.";
+
+} // namespace
+
+QString QtHelpViewer::show(const QString &file, Entry entry) {
   if (!window_) {
+    if (!QFileInfo(file).isFile()) // a pipe would be waited for
+      return kNoBook;
     auto window = std::make_unique<HelpWindow>(file);
     if (!window->isReadable())
-      return false;
+      return window->hasRoom() ? kNoBook : kNoRoom;
     window_ = window.release(); // deletes itself when it is closed
   }
   window_->open(entry);
-  return true;
+  return {};
 }
 
 void QtHelpViewer::close() { delete window_; }

@@ -10,7 +10,7 @@ class QtHelpViewer : public HelpViewer {
 public:
   ~QtHelpViewer() override { close(); }
 
-  bool show(const QString &file, Entry entry) override;
+  QString show(const QString &file, Entry entry) override;
   void close() override;
 
   /// The window, null while there is none.

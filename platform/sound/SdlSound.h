@@ -2,28 +2,27 @@
 
 #include "SoundDevice.h"
 
-#include <QHash>
-#include <QTimer>
-
-#include <chrono>
-#include <cstdint>
-#include <optional>
+#include <memory>
 
 /// Sound through SDL, audio only. The device is opened by `open` or the first sound and stays open
 /// while sounds come; an open one keeps a thread busy, so after half a minute of silence it is
 /// closed.
+///
+/// A stalled sound server may keep any call of SDL from returning. So SDL belongs to a thread of
+/// its own, and the game waits for that half a second at most.
 class SdlSound : public SoundDevice {
 public:
   SdlSound();
   SdlSound(const SdlSound &) = delete;
   SdlSound &operator=(const SdlSound &) = delete;
+  /// If the thread is stuck in SDL it is left to itself.
   ~SdlSound() override;
 
-  /// Opens the device if it is not open. After a failure the next attempt is made ten seconds later
-  /// at the earliest.
+  /// After a failure the next attempt is made ten seconds later at the earliest.
   bool open() override;
 
-  void start(const Klang &klang) override { play(klang); }
+  void start(const Klang &klang) override;
+  /// A device that has been opening for half a second counts as none, until it is open.
   bool playToEnd(const Klang &klang) override;
 
   /// So many frames a cut sound takes to fade out, 5 ms, as a sudden end would click.
@@ -34,15 +33,8 @@ public:
   static QByteArray decoded(const Klang &klang);
 
 private:
-  /// Starts a sound and gives its length; nothing if it can't be heard.
-  std::optional<std::chrono::microseconds> play(const Klang &klang);
-  QByteArray remembered(const Klang &klang);
-  void cut();
-  void close();
+  class Card;
 
-  std::uint32_t device_ = 0; ///< SDL's number of the open device, 0 for none
-  std::optional<std::chrono::steady_clock::time_point> failedAt_;
-  QHash<Klang, QByteArray> decoded_;
-  QByteArray playing_; ///< the sound that was queued last, in the format of the device
-  QTimer silence_;     ///< runs from the last sound on
+  std::shared_ptr<Card> card_; ///< shared with the thread
+  std::thread thread_;
 };

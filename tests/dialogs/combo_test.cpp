@@ -183,7 +183,7 @@ TEST_F(IntelliCombo, LoadsALongFile) {
   QByteArray lines;
   for (int i = 0; i < 100'000; ++i)
     lines += QByteArray::number(i) + "\r\n";
-  write("names", lines);
+  write("names", lines + QByteArray(1001, '9') + "\r\n"); // too long to be a name
   EXPECT_TRUE(combo.Load(path("names")));
   EXPECT_EQ(box.count(), 100'000);
   type("99999");
@@ -197,6 +197,11 @@ TEST_F(IntelliCombo, FailuresTellAndLoseNothing) {
   EXPECT_EQ(combo.LastError(), QFileDevice::OpenError);
   EXPECT_FALSE(combo.Load(folder.path()));
   EXPECT_EQ(entries(), QStringList()) << "cleared all the same";
+  write("large", "");
+  ASSERT_TRUE(QFile::resize(path("large"), 5'000'000'000));
+  EXPECT_FALSE(combo.Load(path("large")));
+  EXPECT_FALSE(combo.Save(path("large"), true));
+  EXPECT_EQ(QFile(path("large")).size(), 5'000'000'000);
   EXPECT_FALSE(combo.Save(path("nowhere/names")));
   EXPECT_FALSE(combo.Save(folder.path(), true));
   ASSERT_EQ(mkfifo(qPrintable(path("pipe")), 0600), 0);

@@ -42,10 +42,10 @@ struct RecordingMessages : MessageBox {
 
 struct RecordingHelp : HelpViewer {
   Log log; ///< "1 FILE", "2 FILE" for contents and index, "close"
-  bool readable = true;
-  bool show(const QString &file, Entry entry) override {
+  QString failure;
+  QString show(const QString &file, Entry entry) override {
     log.push_back(std::to_string(static_cast<int>(entry)) + ' ' + file.toStdString());
-    return readable;
+    return failure;
   }
   void close() override { log.push_back("close"); }
 };

@@ -172,7 +172,7 @@ struct Monkey : Stage {
     ++events_;
     const bool plays = window->Modus() == frmHaupt::Setup || window->Modus() == frmHaupt::Battle;
     const char *keys[] = {"keyNew", "keyOptionen", "keyTop10", "keyHilfe", "keyEnde"};
-    help.readable = any(4) != 0;
+    help.failure = any(4) == 0 ? "kein Buch" : "";
     if (any(plays ? 150 : 4) == 0)
       return mouseAt(control(plays || any(2) == 0 ? keys[any(5)] : "keyNew"));
     if (any(700) == 0)

@@ -11,12 +11,19 @@
 #include <QToolButton>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace {
 
 using Entry = HelpViewer::Entry;
 
+constexpr const char *kNoBook = "Die Hilfedatei fehlt oder ist beschädigt.";
+
 struct Help : testing::Test {
+  const QByteArray temporaryBefore = qgetenv("TMPDIR");
   QtHelpViewer viewer;
+
+  void TearDown() override { qputenv("TMPDIR", temporaryBefore); }
 
   template <typename T>
   T &part() {
@@ -32,7 +39,7 @@ struct Help : testing::Test {
 };
 
 TEST_F(Help, OpensOnContentsAndIndexBesideTheText) {
-  ASSERT_TRUE(viewer.show(KORVEL_BOOK, Entry::contents));
+  ASSERT_EQ(viewer.show(KORVEL_BOOK, Entry::contents), "");
   auto &tabs = part<QTabWidget>();
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), "Inhalt");
   auto &contents = part<QHelpContentWidget>();
@@ -44,7 +51,7 @@ TEST_F(Help, OpensOnContentsAndIndexBesideTheText) {
   EXPECT_EQ(contents.currentIndex().row(), 3);
 
   const HelpWindow *window = viewer.window();
-  ASSERT_TRUE(viewer.show(KORVEL_BOOK, Entry::index));
+  ASSERT_EQ(viewer.show(KORVEL_BOOK, Entry::index), "");
   EXPECT_EQ(viewer.window(), window) << "the same window comes to the front";
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), "Index");
   auto &search = part<QLineEdit>();
@@ -71,7 +78,7 @@ TEST_F(Help, OpensOnContentsAndIndexBesideTheText) {
 
   viewer.close();
   EXPECT_EQ(viewer.window(), nullptr);
-  ASSERT_TRUE(viewer.show(KORVEL_BOOK, Entry::contents));
+  ASSERT_EQ(viewer.show(KORVEL_BOOK, Entry::contents), "");
   EXPECT_EQ(page(), "korvel.html") << "nothing is remembered";
   viewer.window()->close();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -79,9 +86,13 @@ TEST_F(Help, OpensOnContentsAndIndexBesideTheText) {
 }
 
 TEST_F(Help, KeywordsAreInGermanOrderAndLeadSomewhere) {
-  ASSERT_TRUE(viewer.show(KORVEL_BOOK, Entry::index));
+  const QTemporaryDir temporary;
+  qputenv("TMPDIR", temporary.path().toLocal8Bit());
+  ASSERT_EQ(viewer.show(KORVEL_BOOK, Entry::index), "");
   auto &index = part<QListView>();
   ASSERT_TRUE(QTest::qWaitFor([&] { return index.model()->rowCount() > 60; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QDir(temporary.path()).isEmpty(); }))
+      << "a killed game leaves nothing";
   QStringList words;
   auto &text = part<QTextBrowser>();
   for (int row = 0; row < index.model()->rowCount(); ++row) {
@@ -105,18 +116,24 @@ TEST_F(Help, WhatIsNoBookOpensNothing) {
     holes.replace(i, 64, QByteArray(64, 'x'));
   const QByteArray broken[] = {"", "no book", whole.left(3000), whole.left(whole.size() / 2),
                                holes};
-  EXPECT_FALSE(viewer.show(folder.path(), Entry::contents));
-  EXPECT_FALSE(viewer.show(folder.filePath("missing"), Entry::contents));
+  EXPECT_EQ(viewer.show(folder.path(), Entry::contents), kNoBook);
+  EXPECT_EQ(viewer.show(folder.filePath("missing"), Entry::contents), kNoBook);
+  ASSERT_EQ(mkfifo(qPrintable(folder.filePath("pipe")), 0600), 0);
+  EXPECT_EQ(viewer.show(folder.filePath("pipe"), Entry::contents), kNoBook);
   for (const QByteArray &content : broken) {
     const QString path = folder.filePath(QString::number(qHash(content)));
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
     file.close();
-    EXPECT_FALSE(viewer.show(path, Entry::index)) << content.size();
+    EXPECT_EQ(viewer.show(path, Entry::index), kNoBook) << content.size();
     EXPECT_EQ(viewer.window(), nullptr);
   }
-  EXPECT_TRUE(viewer.show(KORVEL_BOOK, Entry::index));
+  qputenv("TMPDIR", "/proc"); // where nobody can write
+  EXPECT_NE(viewer.show(KORVEL_BOOK, Entry::index), kNoBook);
+  EXPECT_EQ(viewer.window(), nullptr);
+  qputenv("TMPDIR", temporaryBefore);
+  EXPECT_EQ(viewer.show(KORVEL_BOOK, Entry::index), "");
 }
 
 } // namespace

@@ -1,10 +1,15 @@
 #include "SdlSound.h"
 
 #include <QDataStream>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
@@ -40,6 +45,10 @@ struct SdlSoundTest : testing::Test {
   }
   void TearDown() override { qputenv("SDL_AUDIODRIVER", driverBefore); }
 
+  bool opens() {
+    return QTest::qWaitFor([&] { return sound.open(); }, 30'000);
+  }
+
   bool hears(const std::function<bool(const QByteArray &)> &what) const {
     return QTest::qWaitFor(
         [&] {
@@ -55,8 +64,7 @@ struct SdlSoundTest : testing::Test {
 };
 
 TEST_F(SdlSoundTest, ANewSoundCutsTheOneBeforeAndAnEmptyOneStops) {
-  ASSERT_TRUE(sound.open());
-  EXPECT_TRUE(sound.playToEnd({}));
+  ASSERT_TRUE(opens());
   sound.start(tone(60'000, kFirst));
   EXPECT_TRUE(hears(kFirst));
   EXPECT_TRUE(sound.playToEnd(tone(20, kSecond)));
@@ -74,6 +82,7 @@ TEST_F(SdlSoundTest, ANewSoundCutsTheOneBeforeAndAnEmptyOneStops) {
 }
 
 TEST_F(SdlSoundTest, BrokenFilesAreNotHeardAndHarmNothing) {
+  ASSERT_TRUE(opens());
   const Klang whole = tone(20, kFirst);
   Klang unknownFormat = whole, noChannels = whole;
   unknownFormat[20] = 0x55;
@@ -92,6 +101,25 @@ TEST_F(SdlSoundTest, WithoutADeviceNothingIsHeardAndNothingBreaks) {
   sound.start(tone(20, kFirst));
   sound.start({});
   EXPECT_FALSE(sound.playToEnd(tone(60'000, kFirst)));
+}
+
+TEST_F(SdlSoundTest, AServerThatNeverAnswersHoldsNothingUp) {
+  sockaddr_un address{AF_UNIX, {}};
+  const QByteArray path = folder.filePath("server").toLocal8Bit();
+  ASSERT_LT(path.size(), qsizetype(sizeof address.sun_path));
+  std::copy(path.begin(), path.end(), address.sun_path);
+  const int server = socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_EQ(bind(server, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+  ASSERT_EQ(listen(server, 9), 0);
+  qputenv("PULSE_SERVER", "unix:" + path);
+  qputenv("SDL_AUDIODRIVER", "pulseaudio");
+  QElapsedTimer timer;
+  timer.start();
+  EXPECT_FALSE(sound.open());
+  EXPECT_FALSE(sound.playToEnd(tone(20, kFirst)));
+  EXPECT_FALSE(sound.playToEnd(tone(20, kFirst)));
+  EXPECT_LT(timer.elapsed(), 20'000) << "the library gives up after half a minute";
+  close(server); // which lets it give up
 }
 
 } // namespace

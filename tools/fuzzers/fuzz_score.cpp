@@ -64,7 +64,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t leng
   PROMISE((loaded == Score::Loaded::fresh) == bytes.empty());
   PROMISE(loaded == Score::Loaded::fresh || readFile(file) == bytes);
   PROMISE((loaded == Score::Loaded::damaged) == fs::exists(copy));
-  PROMISE(loaded != Score::Loaded::damaged || readFile(copy) == bytes);
+  PROMISE(loaded != Score::Loaded::damaged || readFile(copy) == bytes.substr(0, 1800));
 
   // Saved and loaded again it is the same, down to the bytes of a whole file.
   PROMISE(score.SaveScore());

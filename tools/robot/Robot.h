@@ -58,7 +58,7 @@ public:
 /// A book that opens for nobody.
 class ClosedHelp : public HelpViewer {
 public:
-  bool show(const QString &, Entry) override { return true; }
+  QString show(const QString &, Entry) override { return {}; }
   void close() override {}
 };
 
