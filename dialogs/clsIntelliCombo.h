@@ -29,7 +29,6 @@ public:
   void setCombo(QComboBox *vData);
 
   /// Whether the box completes; at first it does. The list is there either way.
-  bool Enabled() const { return enabled_; }
   void setEnabled(bool vData) { enabled_ = vData; }
 
   /// Why the last `Save` or `Load` that failed did, as a QFileDevice::FileError; 0 if none has.

@@ -9,7 +9,6 @@ class frmMeldung : public Dialog {
 public:
   explicit frmMeldung(QWidget *main);
 
-  QString Text() const { return lblMeldung_.text(); }
   void setText(const QString &text) { lblMeldung_.setText(text); }
 
   /// The answer, readable after the box has closed. Closing it through its frame or with Escape

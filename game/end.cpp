@@ -1,6 +1,5 @@
 // The end of a game: file the result, celebrate it, shut the fields.
 
-#include "EventPump.h"
 #include "frmHaupt.h"
 
 #include <utility>
@@ -42,8 +41,7 @@ void frmHaupt::celebrate(int Bild, int Platz, const QString &sentence, const Kla
     return;
   dialog->setPlatz(Platz);
   player_.PlayWav(klang, true);
-  letEventsRun();
-  if (closed())
+  if (!survivesEvents())
     return;
   dialog->setText(sentence);
   dialog->exec();

@@ -186,6 +186,11 @@ void frmHaupt::runCommand(const QString &key) {
     DoHilfe(HelpViewer::Entry::contents);
 }
 
+bool frmHaupt::survivesEvents() {
+  letEventsRun();
+  return !closed();
+}
+
 ScoreServices frmHaupt::scoreServices() {
   return {globals_.score, *Grid, player_, [this](const QString &text) { endWithMessage(text); }};
 }
@@ -233,8 +238,7 @@ void frmHaupt::Form_Unload() {
   while (QWidget *dialog = QApplication::activeModalWidget()) // a question without its game
     if (!dialog->close())
       break;
-  globals_.sounds.SndMuell.clear();
-  player_.PlayWav(globals_.sounds.SndMuell, true);
+  player_.stop();
 }
 
 void frmHaupt::Grid_ChangePicSize() {

@@ -74,6 +74,8 @@ private:
   ScoreServices scoreServices();
   void endWithMessage(const QString &text);
   bool closed() const { return !Grid; }
+  /// Lets events run. False if the window was closed by one of them: the handler has to end.
+  [[nodiscard]] bool survivesEvents();
 
   // modes.cpp: modes, new game, press
   void enterSetup();

@@ -1,5 +1,6 @@
 #include "ClockDraw.h"
-#include "late.h"
+#include "LateSound.h"
+#include "QtHelpViewer.h"
 #include "scale.h"
 #include "startup.h"
 
@@ -47,7 +48,7 @@ int main(int argc, char **argv) {
   LateSound sound;
   QtSettingsStore settings;
   QtMessageBox messages;
-  LateHelp help;
+  QtHelpViewer help;
   Globals globals;
   const auto window = Main(globals, {draw, sound, settings, messages, help}, folder);
   // Opening the sound card can take longer than the whole start, so the first frames come before.

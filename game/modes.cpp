@@ -1,6 +1,5 @@
 // The modes of a game, the start of a new one, and the way of a press to the mode's action.
 
-#include "EventPump.h"
 #include "frmHaupt.h"
 #include "frmNeu.h"
 #include "press.h"
@@ -61,8 +60,7 @@ void frmHaupt::DoNew() {
   if (closed())
     return;
   dialog.exec();
-  letEventsRun();
-  if (closed())
+  if (!survivesEvents())
     return;
   openHint("Setze Deine Boote ins linke Feld!\n(Einfach ins Feld klicken...)");
   if (!frmSieg_)

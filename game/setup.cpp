@@ -1,6 +1,5 @@
 // The human sets the fleet: press by press, boat by boat, the longest first.
 
-#include "EventPump.h"
 #include "frmHaupt.h"
 #include "frmMeldung.h"
 
@@ -14,8 +13,7 @@ void frmHaupt::setPoint(const Cell &cell) {
   Grid->DrawBoat(boat_.BootID);
   player_.PlayWav(globals_.sounds.SndBoot, true);
   UpdateBoote();
-  letEventsRun();
-  if (closed())
+  if (!survivesEvents())
     return;
   showBin(false);
   if (!boat_.next(*Grid))
@@ -25,8 +23,7 @@ void frmHaupt::setPoint(const Cell &cell) {
 void frmHaupt::fleetComplete() {
   player_.PlayWav(globals_.sounds.SndBoot, false);
   player_.PlayWav(globals_.sounds.SndAlle, true);
-  letEventsRun();
-  if (closed())
+  if (!survivesEvents())
     return;
   const bool accepted = ask(this, "Alle Boote wurden gesetzt.\r\n\r\n"
                                   "Bist Du mit der Aufstellung zufrieden?");

@@ -4,13 +4,11 @@
 // side a further shot. The sound of the human's shot is the pause before the reply, whose own
 // sound plays while the human is already free to press.
 
-#include "EventPump.h"
 #include "frmHaupt.h"
 
 void frmHaupt::takeTurn(const Cell &cell) {
   const ShotCode code = Grid->Shoot(cell.X, cell.Y);
-  letEventsRun();
-  if (closed())
+  if (!survivesEvents())
     return;
 
   int winner = 0;
@@ -29,8 +27,7 @@ void frmHaupt::takeTurn(const Cell &cell) {
   case ShotCode::sunk:
     ++BombenZahl_[0];
     winner = UpdateBoote();
-    letEventsRun();
-    if (closed())
+    if (!survivesEvents())
       return;
     player_.PlayWav(globals_.sounds.SndVersenkt, false);
     break;
@@ -50,8 +47,7 @@ void frmHaupt::computerReplies() {
     return;
   }
   const int winner = UpdateBoote();
-  letEventsRun();
-  if (closed())
+  if (!survivesEvents())
     return;
   player_.PlayWav(globals_.sounds.SndVersenkt, true);
   if (winner == 2)

@@ -36,7 +36,6 @@ public:
   void SetText(int ID, const QString &text);
 
   /// The balloon is seen while the server is active, as it is at first, and tracks its tool.
-  bool Active() const { return active_; }
   void setActive(bool active);
   /// Begins at the pointer, or where the area is nearest to it.
   void Track(bool on, int ID);

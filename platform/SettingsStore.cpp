@@ -1,13 +1,10 @@
 #include "SettingsStore.h"
 
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 
 namespace {
-
-constexpr int kLockTime = 100; // ms
 
 /// The file of the store on systems that have one.
 QString fileOf(const QString &application) {
@@ -19,13 +16,6 @@ QString fileOf(const QString &application) {
 bool isUsable(const QString &application) {
   const QFileInfo file(fileOf(application));
   return !file.exists() || file.isFile();
-}
-
-/// Whether somebody holds the lock that Qt takes to write. A lock left behind by a crash, too,
-/// would keep Qt waiting for half a minute and longer.
-bool isLocked(const QString &application) {
-  QLockFile lock(fileOf(application) + ".lock");
-  return !lock.tryLock(kLockTime) && lock.error() == QLockFile::LockFailedError;
 }
 
 } // namespace
@@ -40,7 +30,7 @@ QString QtSettingsStore::read(const QString &application, const QString &section
 
 void QtSettingsStore::write(const QString &application, const QString &section, const QString &key,
                             const QString &text) {
-  if (!isUsable(application) || isLocked(application))
+  if (!isUsable(application))
     return;
   QSettings settings(application, application);
   settings.setValue(section + '/' + key, text);

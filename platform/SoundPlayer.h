@@ -15,6 +15,9 @@ public:
   /// sound still costs the time of `waitFor`.
   void PlayWav(const Klang &klang, bool Async);
 
+  /// Ends the sound that is playing, unless sound is switched off.
+  void stop() { PlayWav({}, true); }
+
   /// 800 ms for each 22158 bytes of the file, rounded to whole milliseconds.
   static int waitFor(const Klang &klang);
 

@@ -2,6 +2,6 @@
 
 #include <memory>
 
-extern "C" Q_DECL_EXPORT SoundDevice *korvelService() {
+extern "C" Q_DECL_EXPORT SoundDevice *korvelSound() {
   return std::make_unique<SdlSound>().release();
 }

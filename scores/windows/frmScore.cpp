@@ -31,8 +31,8 @@ void addLine(QWidget *parent, const QString &name, const QRect &place) {
 } // namespace
 
 frmScore::frmScore(QWidget *main, const ScoreServices &services)
-    : Dialog(main, {300, 381}), services_(services), SndTop10_(loadSound("top10")) {
-  services_.player.PlayWav(SndTop10_, true);
+    : Dialog(main, {300, 381}), services_(services) {
+  services_.player.PlayWav(loadSound("top10"), true);
   setAccessibleName("Bestenliste");
   makePicture(this, {0, 0, 300, 382}, "score-hintergrund");
   buildHeadings();
@@ -46,8 +46,7 @@ frmScore::frmScore(QWidget *main, const ScoreServices &services)
 }
 
 frmScore::~frmScore() {
-  SndTop10_.clear();
-  services_.player.PlayWav(SndTop10_, true);
+  services_.player.stop();
 }
 
 void frmScore::buildHeadings() {

@@ -30,7 +30,6 @@ public:
   ~frmScore() override;
 
   /// The place that blinks, 1 to 10; 0 for none.
-  int Platz() const { return Platz_; }
   void setPlatz(int Platz);
 
   /// Shows the window and returns when it has closed for good.
@@ -53,7 +52,6 @@ private:
   static constexpr int kPlaces = Score::kPlaces;
 
   const ScoreServices services_;
-  Klang SndTop10_;
   int Platz_ = 0;
   int size_ = 1; ///< of the tab that is pressed
   bool pressed_ = false;

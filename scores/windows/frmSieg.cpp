@@ -35,7 +35,6 @@ frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
 }
 
 void frmSieg::setBild(int Bild, const QString &Bomben) {
-  Bild_ = Bild;
   const QPixmap banner = loadPicture(Bild == 0 ? "banner-sieg" : "banner-verloren");
   const QSize size = banner.deviceIndependentSize().toSize();
   imgTitle_.setAccessibleName(Bild == 0 ? "Herzlichen Glückwunsch!" : "Du Loser!");

@@ -11,23 +11,19 @@ class frmSieg : public Dialog {
 public:
   frmSieg(QWidget *main, const ScoreServices &services);
 
-  QString Text() const { return lblText_.text(); }
   void setText(const QString &text) { lblText_.setText(text); }
 
-  int Bild() const { return Bild_; }
   /// 0 the human has won, 1 the computer, with `Bomben`, the digits of the winner's count. Lets
   /// events run.
   void setBild(int Bild, const QString &Bomben);
 
   /// The winner's place in the top ten, 0 for none.
-  int Platz() const { return Platz_; }
   void setPlatz(int Platz) { Platz_ = Platz; }
 
 private:
   void showScores();
 
   const ScoreServices services_;
-  int Bild_ = 0;
   int Platz_ = 0;
   QLabel picHinten_{this};
   QLabel imgTitle_{&picHinten_};

@@ -25,7 +25,7 @@ cd "$tmp/un ter"\$weg
 tar xzf "$tmp"/Korvel-*.tar.gz
 cd Korvel-*
 [ "$(ls -A ..)" = "${PWD##*/}" ] || fail "the bundle is not one folder"
-for file in Korvel lib{klang,hilfe}.so Combo.txt Hilfe.qch LICENSE LIESMICH.txt CHANGELOG.md \
+for file in Korvel libklang.so Combo.txt Hilfe.qch LICENSE LIESMICH.txt CHANGELOG.md \
   icons/korvel-{16,256}.png; do
   [ -s "$file" ] || fail "$file is missing"
 done

@@ -1,0 +1,27 @@
+#include "LateSound.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+
+#include <utility>
+
+SoundDevice *LateSound::device() {
+  if (!std::exchange(wasTried_, true)) {
+    const QString module = QCoreApplication::applicationDirPath() + "/klang";
+    if (const auto make =
+            reinterpret_cast<SoundDevice *(*)()>(QLibrary::resolve(module, "korvelSound")))
+      device_.reset(make());
+  }
+  return device_.get();
+}
+
+bool LateSound::open() { return device() && device()->open(); }
+
+void LateSound::start(const Klang &klang) {
+  if (klang.isEmpty() && !device_)
+    return; // silence needs no device
+  if (device())
+    device()->start(klang);
+}
+
+bool LateSound::playToEnd(const Klang &klang) { return device() && device()->playToEnd(klang); }
