@@ -6,9 +6,9 @@
 /// point by point.
 struct BoatInWork {
   int BootID = 1; ///< beyond `BoatCount` the fleet is complete
-  int TeilNr = 0; ///< points of this boat that stand already
+  int TeilNr = 0; ///< points of this boat that are set
 
-  /// Whether a press on the cell adds a point. It costs nothing if it doesn't.
+  /// Whether a press on the cell adds a point. A press that adds none has no effect.
   bool accepts(const clsGrid &grid, int X, int Y) const {
     return BootID <= grid.BoatCount() && grid.CreatePoint(BootID, X, Y);
   }
@@ -19,7 +19,7 @@ struct BoatInWork {
     TeilNr = 0;
     return ++BootID <= grid.BoatCount();
   }
-  /// Takes the boat off again; it is set anew from its first point.
+  /// Removes the boat; the next point is again its first one.
   void discard(clsGrid &grid) {
     grid.DeleteBoat(BootID);
     TeilNr = 0;

@@ -37,8 +37,8 @@ public:
   int columns() const { return columns_; }
   int rows() const { return rows_; }
 
-  /// Whether the cell lies on the field. What a cell off the field means is each rule's own
-  /// affair: free to one, closed, known or water to another.
+  /// Whether the cell lies on the field. What a cell off the field counts as, free,
+  /// closed, known or water, is up to each rule.
   bool contains(int X, int Y) const { return X >= 1 && X <= columns_ && Y >= 1 && Y <= rows_; }
 
   /// The value of a cell on the field.

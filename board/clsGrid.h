@@ -46,7 +46,7 @@ int winnerOf(const BoatTexts &table);
 /// Cells, boats and points count from 1. Boats are numbered by `BootID` from the longest to the
 /// shortest, alike on both sides.
 ///
-/// The routines of the computer stand in the room `opponent`.
+/// The routines of the computer are in the room `opponent`.
 class clsGrid {
 public:
   /// The draw must outlive the board.
@@ -102,7 +102,7 @@ public:
   bool SetPoint(int BootID, int n, int X, int Y);
   /// Shows the finished boat.
   void DrawBoat(int BootID);
-  /// Takes all points of the boat off again.
+  /// Removes all points of the boat.
   void DeleteBoat(int BootID);
   /// The left surface loses the fleet, the right one shows it.
   void MoveFleet();
@@ -125,8 +125,8 @@ public:
   /// The computer's whole turn. Never gives `repeated`. Some boat of the human must be afloat.
   ShotCode ComputerShoot();
 
-  /// The first thing that is wrong with the board, if any, in words and with the position. It
-  /// holds after every operation; debug builds stop where it doesn't.
+  /// The first thing that is wrong with the board, if any, in words and with the position. Debug
+  /// builds look after every operation and stop if something is wrong.
   std::optional<std::string> brokenInvariant() const;
   /// Both seas as text, the computer's at the left: `.` water, `o` miss, a letter a boat's intact
   /// point, `*` a hit, `#` sunk.

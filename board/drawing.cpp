@@ -14,7 +14,7 @@ void clsGrid::show(Picture picture, Surface &surface, int X, int Y) const {
 }
 
 void clsGrid::InitPictures() {
-  // A line before each cell and one behind the last, and a border of one pixel at each side.
+  // A line before each cell and one after the last, and a border of one pixel at each side.
   const int p = CellSize() + 1;
   const int width = columns() * p + 3;
   const int height = rows() * p + 3;

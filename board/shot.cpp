@@ -26,7 +26,7 @@ ShotCode clsGrid::Shoot(int X, int Y) {
   return afloat ? ShotCode::hit : ShotCode::sunk;
 }
 
-// Enters a hit of either side. A boat that floats on shows it; for one that doesn't `sink` follows.
+// Stores a hit of either side. If the boat still floats the hit is shown; if not, `sink` follows.
 bool clsGrid::hit(Field &field, tBoot &boot, Surface &surface, int X, int Y) {
   for (int j = 1; j <= boot.length(); ++j)
     if (boot.cell(j) == Cell{X, Y})

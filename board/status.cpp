@@ -7,7 +7,7 @@
 namespace {
 
 // `BootTable` less the boats that count as gone, class by class. Boats of a class have consecutive
-// numbers behind those of the longer classes.
+// numbers after those of the longer classes.
 template <typename Gone>
 std::array<std::string, kClasses> remaining(int Size, const std::vector<tBoot> &boats, Gone gone) {
   std::array<std::string, kClasses> texts;

@@ -65,10 +65,10 @@ bool clsIntelliCombo::Load(const QString &Filename, bool Append) {
   return true;
 }
 
-// Nothing, having noted why, if it can't be read to its end.
+// Nothing if it can't be read to its end; `lastError_` then says why.
 std::optional<QByteArray> clsIntelliCombo::contentOf(const QString &Filename) {
   QFile file(Filename);
-  // Anything but a plain file could keep the program waiting for ever.
+  // Anything but a plain file could keep the program waiting forever.
   if (!QFileInfo(Filename).isFile() || !file.open(QIODevice::ReadOnly)) {
     lastError_ = QFileDevice::OpenError;
     return std::nullopt;
@@ -86,7 +86,7 @@ std::optional<QByteArray> clsIntelliCombo::contentOf(const QString &Filename) {
 }
 
 bool clsIntelliCombo::Save(const QString &Filename, bool Append) {
-  // Written as a whole beside the old file, which it then replaces.
+  // Written to a new file, which then replaces the old one.
   if (!mvarCombo_)
     return fail(QFileDevice::UnspecifiedError);
   QByteArray content;
@@ -129,8 +129,8 @@ bool clsIntelliCombo::eventFilter(QObject *watched, QEvent *event) {
       return inOpenList(*event);
     if (event->type() == QEvent::KeyPress && keyPressed(static_cast<QKeyEvent &>(*event)))
       return true;
-    // What a dead key or another input method has composed: let in first, so that it has done with
-    // its own text in the box, then completed.
+    // Text from a dead key or another input method: the box takes it first, which ends the
+    // composing, then it is completed.
     if (event->type() == QEvent::InputMethod &&
         !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty()) {
       mvarCombo_->hidePopup();
@@ -142,16 +142,15 @@ bool clsIntelliCombo::eventFilter(QObject *watched, QEvent *event) {
   return QObject::eventFilter(watched, event);
 }
 
-// The list that is dropped down gets the keys before the box. True if the event has been dealt
-// with.
+// The open list gets the keys before the box does. True if the event is handled.
 bool clsIntelliCombo::inOpenList(QEvent &event) {
   QComboBox &box = *mvarCombo_;
   QLineEdit &edit = *box.lineEdit();
   if (event.type() == QEvent::Show) {
-    // Enter takes the entry that is marked: none while the text is another.
+    // Enter takes the marked entry. None is marked while the text is different.
     if (box.itemText(box.currentIndex()) != box.currentText())
       box.view()->setCurrentIndex({});
-    selected_ = {edit.selectionStart(), edit.selectionLength()}; // as the text will lose the focus
+    selected_ = {edit.selectionStart(), edit.selectionLength()}; // lost together with the focus
   }
   if (event.type() != QEvent::KeyPress)
     return false;
@@ -160,7 +159,7 @@ bool clsIntelliCombo::inOpenList(QEvent &event) {
   const bool isMarked = box.view()->currentIndex().isValid();
   if (isEnter ? isMarked : key.text().isEmpty() || key.key() == Qt::Key_Escape)
     return false; // takes the entry, moves in the list or closes it
-  // All else is for the box, as with the list closed: what types, deletes, and access keys.
+  // All other keys go to the box, as with a closed list: typing, deleting, access keys.
   box.hidePopup();
   if (selected_.second > 0)
     edit.setSelection(selected_.first, selected_.second);
@@ -169,7 +168,7 @@ bool clsIntelliCombo::inOpenList(QEvent &event) {
   return true;
 }
 
-// True if the key has been dealt with. Keys that do more than type or delete a character keep their
+// True if the key is handled. Keys that do more than type or delete a character keep their
 // ordinary effect: commands, such as Ctrl+Backspace, and Shift+Delete, which cuts.
 bool clsIntelliCombo::keyPressed(const QKeyEvent &key) {
   const auto modifiers = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
@@ -184,7 +183,7 @@ bool clsIntelliCombo::keyPressed(const QKeyEvent &key) {
 }
 
 // The text that the box would hold after a key: a character, or Qt's code for Backspace or Delete,
-// which is no character's.
+// which no character has.
 QString clsIntelliCombo::NewText(int key) const {
   const QLineEdit &edit = *mvarCombo_->lineEdit();
   const QString text = edit.text();
@@ -219,7 +218,7 @@ bool clsIntelliCombo::FindAndSelect(const QString &text, Match kind) {
   return true;
 }
 
-// Looks from the entry behind `start` on and wraps once to the top; -1 if there is none.
+// Looks from the entry after `start` on and wraps once to the top; -1 if there is none.
 int clsIntelliCombo::ComboFind(const QString &text, int start, Match kind) const {
   const int count = mvarCombo_->count();
   for (int step = 1; step <= count; ++step) {

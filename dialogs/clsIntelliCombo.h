@@ -23,25 +23,25 @@ class clsIntelliCombo : public QObject {
   Q_OBJECT
 
 public:
-  /// The box worked on; none at first. One that is handed over loses its own completer, the one
-  /// before is let go.
+  /// The box worked on; none at first. One that is set loses its own completer; the one before
+  /// is released.
   QComboBox *Combo() const { return mvarCombo_; }
   void setCombo(QComboBox *vData);
 
   /// Whether the box completes; at first it does. The list is there either way.
   void setEnabled(bool vData) { enabled_ = vData; }
 
-  /// Why the last `Save` or `Load` that failed did, as a QFileDevice::FileError; 0 if none has.
+  /// Why the last failed `Save` or `Load` failed, as a QFileDevice::FileError; 0 if none has.
   std::int32_t LastError() const { return lastError_; }
 
-  /// Writes the list in Windows-1252, an entry a line with CR LF; with `Append` behind what is in
-  /// the file. False if that fails, which leaves the file as it was.
+  /// Writes the list in Windows-1252, one entry on each line with CR LF; with `Append` after
+  /// what is in the file. False if that fails, which leaves the file as it was.
   bool Save(const QString &Filename, bool Append = false);
 
   /// Fills the list from a file of that form; a lone CR or LF ends a line too, and the last line
   /// needs no end. Unless `Append` the list is cleared before, and the text with it, whether or not
   /// the file can be read. Lets events run after each line. Lines of more than 1000 bytes are
-  /// passed over. False if the file can't be read to its end, or has more than 16 MB.
+  /// skipped. False if the file can't be read to its end, or has more than 16 MB.
   bool Load(const QString &Filename, bool Append = false);
 
 protected:

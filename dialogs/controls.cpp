@@ -75,7 +75,7 @@ BlueButton::BlueButton(QWidget *parent, const QString &name, const QRect &place,
   setAttribute(Qt::WA_Hover);
 }
 
-// Past QAbstractButton's handler, which takes the other options of a group out of the tab order.
+// Skips QAbstractButton's handler, which takes the other options of a group out of the tab order.
 // NOLINTNEXTLINE(bugprone-parent-virtual-call)
 void BlueButton::focusInEvent(QFocusEvent *event) { QWidget::focusInEvent(event); }
 
@@ -101,7 +101,7 @@ void BlueButton::paintEvent(QPaintEvent *) {
   painter.fillRect(plate.adjusted(0, 0, -1, -1), sunken ? shaded : lit);
   painter.fillRect(plate.adjusted(1, 1, -1, -1), face);
 
-  // 2. What stands on it.
+  // 2. Picture and caption.
   const QRect inside = rect().translated(isDown() ? 1 : 0, isDown() ? 1 : 0);
   const bool pictured = !icon().isNull();
   if (pictured) {
@@ -139,7 +139,7 @@ Dialog::Dialog(QWidget *main, QSize inner, const QString &title)
     : QDialog(main, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                         Qt::WindowCloseButtonHint) {
   setWindowTitle(title.isEmpty() ? " " : title); // an empty one would become the program's name
-  fixPlace(inner, main->size()); // both have the same frame, which counts for nothing
+  fixPlace(inner, main->size()); // both have the same frame, so it makes no difference
 }
 
 Dialog::Dialog(QWidget *main, QSize inner) : QDialog(main, Qt::Dialog | Qt::FramelessWindowHint) {

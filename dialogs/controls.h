@@ -14,9 +14,8 @@ inline constexpr QColor kDarkRed(128, 0, 0);
 inline constexpr QColor kLightCyan(192, 255, 255);
 
 /// Fonts by their size in points at 96 dpi, set in pixels so that a layout holds on every screen;
-/// each with metric-compatible fallbacks. They borrow no glyph from further fonts: all that the
-/// game can store is of Windows-1252, which each of them holds, and to look for lenders slows the
-/// start.
+/// each with metric-compatible fallbacks. They take no glyph from other fonts: the game can store
+/// only Windows-1252, which each of them has, and a search through all fonts slows the start.
 QFont serifFont(double points, QFont::Weight weight = QFont::Bold);
 QFont sansFont(double points, QFont::Weight weight = QFont::Normal);
 
@@ -40,8 +39,8 @@ void drawFocus(QPainter &painter, const QRect &place);
 /// other key.
 bool clickByEnter(QAbstractButton &button, const QKeyEvent &key);
 
-/// A light blue button, caption or picture over caption. No key is bound to it but the access key
-/// of its caption and, with the focus, Space and Enter.
+/// A light blue button, caption or picture over caption. The only keys that press it are the
+/// access key of its caption and, with the focus, Space and Enter.
 class BlueButton : public QPushButton {
   Q_OBJECT
 

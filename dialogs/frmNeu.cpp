@@ -20,7 +20,7 @@ bool types(const QKeyEvent &key) {
          key.key() != Qt::Key_Backtab;
 }
 
-// A letter with Alt that is no access key here (those come before). The line would insert it.
+// A letter with Alt. Access keys were handled before; any other letter the line would insert.
 bool isStray(const QKeyEvent &key) {
   return types(key) && key.modifiers().testFlag(Qt::AltModifier) &&
          !key.modifiers().testFlag(Qt::ControlModifier);
@@ -63,7 +63,7 @@ frmNeu::frmNeu(QWidget *main, int Size, const QString &name, const QString &Comb
   connect(cmdAbbruch, &QPushButton::clicked, this, &QWidget::close);
 
   Intelli_.setCombo(&cboName_);
-  cboName_.installEventFilter(this); // behind the completion's own, so it sees a key before it
+  cboName_.installEventFilter(this); // after the completion's own, so this one sees a key first
   Intelli_.Load(ComboPath);
   Intelli_.setEnabled(true);
   cboName_.setEditText(name);

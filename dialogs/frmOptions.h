@@ -10,7 +10,7 @@ class frmOptions : public Dialog {
   Q_OBJECT
 
 public:
-  /// Both must outlive the dialog; neither is written but by Übernehmen.
+  /// Both must outlive the dialog. Only Übernehmen writes them.
   frmOptions(QWidget *main, Settings &settings, SettingsStore &store);
 
 private:

@@ -1,4 +1,4 @@
-// The end of a game: file the result, celebrate it, shut the fields.
+// The end of a game: file the result, celebrate it, disable the fields.
 
 #include "frmHaupt.h"
 

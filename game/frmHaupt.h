@@ -31,8 +31,8 @@ public:
 ///
 /// The whole game advances on one event, the press on the left field; the computer's reply runs
 /// inside its handler. Wherever a handler lets events run or shows a dialog, the window may be
-/// closed; closing releases `Grid`, so each handler looks whether it is gone and ends without
-/// touching what is. The window object itself outlives them all.
+/// closed; closing releases `Grid`, so each handler checks whether it is gone and ends without
+/// touching it. The window object itself outlives them all.
 class frmHaupt : public QWidget {
   Q_OBJECT
 

@@ -79,7 +79,7 @@ void frmHaupt::releaseHints() {
   timTTip_.stop();
 }
 
-// The mouse on the controls, each as its hint wants it. A disabled control leaves it to the
+// What the mouse on a control does to the hint. A disabled control leaves its events to the
 // background.
 bool frmHaupt::eventFilter(QObject *watched, QEvent *event) {
   const bool isMove = event->type() == QEvent::MouseMove;
@@ -95,7 +95,7 @@ bool frmHaupt::eventFilter(QObject *watched, QEvent *event) {
   }
   if (isMove)
     moveHint(*static_cast<QMouseEvent *>(event));
-  else if (watched != &picHinten && watched != &picpFeld) // the field's press comes on its own way
+  else if (watched != &picHinten && watched != &picpFeld) // the field's press does so itself
     closeHint();
   return watched != &picpFeld && watched != &imgMüll; // nothing else has a use for it
 }

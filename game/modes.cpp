@@ -1,4 +1,4 @@
-// The modes of a game, the start of a new one, and the way of a press to the mode's action.
+// The modes of a game, the start of a new one, and what a press does in each mode.
 
 #include "frmHaupt.h"
 #include "frmNeu.h"

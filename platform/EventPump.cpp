@@ -10,7 +10,7 @@
 
 namespace {
 
-/// What mouse and keys have done while a handler lets events run, until it has ended.
+/// Keeps the mouse and key events that arrive while a handler lets events run, until it has ended.
 class KeptInput : public QObject {
 public:
   explicit KeptInput(QObject *parent) : QObject(parent) { qApp->installEventFilter(this); }
@@ -23,8 +23,8 @@ public:
   }
 
 protected:
-  // Input is seen here on its way to a window, before it is a widget's. What comes while some is
-  // kept has to queue up after it.
+  // Input is seen here on its way to a window, before a widget gets it. While some input is kept,
+  // later input has to wait too.
   bool eventFilter(QObject *watched, QEvent *event) override {
     if (!watched->isWindowType() || !isInput(event->type()) || (depth_ == 0 && kept_.empty()))
       return false;

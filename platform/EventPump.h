@@ -4,5 +4,5 @@
 /// their order, as ordinary input, after the handler under way has ended; so no turn nests in
 /// another, and no close waits for the turns of the presses made before it.
 ///
-/// The main window may be gone when this returns: the caller has to look.
+/// The main window may be gone when this returns: the caller has to check.
 void letEventsRun();

@@ -27,8 +27,8 @@ const QColor kBlue(30, 100, 200);
 
 } // namespace
 
-/// The window's child that is seen: as it has no window of its own, it needs no help of the window
-/// system to be transparent, and to let presses through to what it covers.
+/// The balloon on the screen, a child widget of the window. It has no window of its own, so it can
+/// be transparent and let presses through on every window system.
 class Balloon : public QWidget {
 public:
   Balloon(QWidget &window, const QRect &area, const QFont &font) : QWidget(&window), area_(area) {

@@ -135,7 +135,7 @@ void PictureBox::tellReaders() {
   }
 }
 
-// Here, as a field that is shut gets no further with the pointer.
+// Here, because a disabled field gets no mouse events in its handlers.
 bool PictureBox::event(QEvent *event) {
   if (event->type() == QEvent::MouseMove)
     setPointer(static_cast<QMouseEvent *>(event)->pos() - QPoint(kBorder, kBorder));

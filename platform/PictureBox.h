@@ -49,8 +49,8 @@ public:
 
   const QImage &content() const { return content_; }
 
-  /// The cell under the pointer in words, and what is seen there; empty beside the cells. Screen
-  /// readers get it as the description of the box, and are told when it changes.
+  /// The cell under the pointer in words, and what is seen there; empty between the cells. Screen
+  /// readers get it as the description of the box, and a notice when it changes.
   QString seenUnderPointer() const;
 
 signals:

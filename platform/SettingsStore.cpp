@@ -12,7 +12,7 @@ QString fileOf(const QString &application) {
          application + '/' + application + ".conf";
 }
 
-/// Whether Qt can be let at it: it would wait for ever for a pipe in that place.
+/// Whether Qt may open it: if it is a pipe, Qt would wait forever.
 bool isUsable(const QString &application) {
   const QFileInfo file(fileOf(application));
   return !file.exists() || file.isFile();

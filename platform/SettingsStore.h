@@ -11,7 +11,7 @@ public:
   virtual QString read(const QString &application, const QString &section, const QString &key,
                        const QString &fallback) const = 0;
 
-  /// Stores the text, for good when it returns. A store that can't be written stays as it is.
+  /// Stores the text before it returns. A store that can't be written stays as it is.
   virtual void write(const QString &application, const QString &section, const QString &key,
                      const QString &text) = 0;
 };

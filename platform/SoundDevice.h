@@ -19,7 +19,7 @@ public:
   virtual bool open() { return true; }
 
   /// Cuts the sound that is playing and starts this one; an empty buffer only stops. Returns at
-  /// once. What can't be decoded or heard is passed over in silence.
+  /// once. What can't be decoded or heard is skipped.
   virtual void start(const Klang &klang) = 0;
 
   /// Like `start`, but blocks the thread until the sound has ended. False, at once, if it can't be

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// The way of every sound of the game to the device.
+/// Plays every sound of the game on the device.
 class SoundPlayer {
 public:
   /// `Sound` is the user's switch: 0 off, any other value on. Both must outlive the player.

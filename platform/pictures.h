@@ -15,7 +15,7 @@ QPixmap loadPicture(const QString &name);
 /// A pointer that looks like the picture and points with its centre.
 QCursor loadPointer(const QString &name);
 
-/// What stands before the pixels of a picture that is carried decoded (see tools/decode_pictures).
+/// The head of a picture that is stored decoded, before its pixels (see tools/decode_pictures).
 /// The pixels have 32 bits each.
 struct DecodedHead {
   qint32 width = 0, height = 0;

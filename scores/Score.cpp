@@ -51,8 +51,8 @@ void createIfMissing(const fs::path &path) {
     File(std::fopen(path.string().c_str(), "ab"));
 }
 
-/// The bytes of the table, fewer if the file ends early; nothing if it can't be read. What a save
-/// leaves alone, however much, is not read.
+/// The bytes of the table, fewer if the file ends early; nothing if it can't be read. What comes
+/// after the table, which a save leaves alone, is not read.
 std::optional<std::string> readTable(const fs::path &path) {
   const File file = openPlain(path, "rb", Turn::reading);
   if (!file)
@@ -161,7 +161,7 @@ Score::Loaded Score::loadAtStart() {
   case Loaded::whole:
     break;
   case Loaded::fresh:
-    ResetScore(); // a folder that cannot be written is told at the first real save
+    ResetScore(); // a folder that cannot be written is reported at the first real save
     break;
   case Loaded::damaged:
     copyDamagedFile();
@@ -189,8 +189,8 @@ void Score::keepIntactRows() {
 }
 
 // The copy is of the part that the next save writes over; what lies after it stays in the file. The
-// newest copy has the plain name; an older one gets the first number that is free. A folder that
-// cannot be written leaves the damaged file alone as it is, until the next save.
+// newest copy has the plain name; an older one gets the first number that is free. In a folder that
+// cannot be written no copy is made; the damaged file stays as it is until the next save.
 void Score::copyDamagedFile() const {
   fs::path copy = file_;
   copy += ".defekt";

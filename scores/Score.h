@@ -30,7 +30,7 @@ public:
     int bombs() const;
   };
 
-  /// What the user is told of the file. Behind the first two the program ends.
+  /// Messages for the user. After the first two the program ends.
   static constexpr const char *kSaveFailed =
       "Es trat ein Fehler beim Speichern der Highscore-Daten auf!\r\nDas Programm wird beendet!";
   static constexpr const char *kResetFailed =
@@ -46,12 +46,12 @@ public:
 
   enum class Loaded {
     whole,
-    fresh,      ///< the file was missing, perhaps for good, or empty: all texts are empty
+    fresh,      ///< the file was missing or empty; it may still be missing. All texts are empty
     damaged,    ///< a length or a quote field is impossible, or the file ends early
     unreadable, ///< it cannot be read: all texts are empty
   };
   /// Reads the table; a missing file is created empty. What lies beyond the end of the file is
-  /// read as empty texts, what lies behind the last record is ignored.
+  /// read as empty texts, what comes after the last record is ignored.
   Loaded LoadScore();
 
   /// Writes the whole table, in place, with one write. False if that fails or if a name has more
@@ -62,10 +62,10 @@ public:
   bool ResetScore();
 
   /// Files a result, 1 to 32767 bombs, and saves. The place, 1 to 10, or 0 if it enters no list,
-  /// which writes nothing; nothing at all if saving failed.
+  /// which writes nothing. No value if saving failed.
   std::optional<int> EnterScore(int size, const std::string &name, int bombs);
 
-  /// Start-up: loads, and makes the best of what it finds. A first start writes the reset state,
+  /// Start-up: loads the table. A first start writes the reset state,
   /// if it can. Of a damaged file, its table copied to `Score.hsc.defekt` beforehand, the intact
   /// rows stay; an unreadable one leaves the reset state; nothing is written before the next save.
   Loaded loadAtStart();

@@ -1,8 +1,8 @@
 # Sourced by play, check and tools/fuzz in the root: installs the Debian packages that are missing,
 # and configures.
 #
-# A package counts as there when its probe is: a command, or a file. So nothing is asked of a
-# package manager when all is there, and other systems than Debian can be served by hand.
+# A package counts as there when its probe is: a command, or a file. So no package
+# manager is needed when all is there, and on other systems one can install the packages by hand.
 
 # package, and the command or file (a pattern) that shows it
 build_packages='
@@ -103,8 +103,8 @@ begin() {
   flock -n 9 || { echo "Waiting for another build in this folder" >&2 && flock 9; } || true
 }
 
-# configure PRESET TREE: makes the build tree unless it stands. One that was copied or moved here
-# still means its old folder, so it is made again; files that no build makes stay in it.
+# configure PRESET TREE: makes the build tree unless it exists. One that was copied or moved here
+# still points to its old folder, so it is made again; files that no build makes stay in it.
 configure() {
   local home=''
   [ ! -f "$2/CMakeCache.txt" ] ||

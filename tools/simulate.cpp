@@ -181,7 +181,7 @@ std::string play(clsGrid &grid, RandomDraw &draw, const Fleet *given, Taste tast
          ",\"reply\":" + toJson(reply) + ",\"winner\":" + std::to_string(winner) + '}';
 }
 
-/// Bombs that sink the fleet that stands, the computer's; it is alone on the sea.
+/// The computer's bombs until the human's fleet is sunk; nobody shoots back.
 int bombsOfComputer(clsGrid &grid) {
   int bombs = 0;
   do
@@ -190,7 +190,7 @@ int bombsOfComputer(clsGrid &grid) {
   return bombs;
 }
 
-/// Bombs of a player who takes any cell not shot at, one as readily as another.
+/// Bombs of a player who takes any cell not shot at, each with the same chance.
 int bombsOfChance(const clsGrid &grid, RandomDraw &draw) {
   std::vector<Cell> cells;
   for (int Y = 1; Y <= grid.rows(); ++Y)
@@ -216,7 +216,7 @@ std::string countBombs(clsGrid &grid, RandomDraw &draw, const Fleet *given, Tast
 
 // The two commands.
 
-/// One game, or what stands in for it, as a line.
+/// One game, or the bombs of one fleet, as a line.
 using Game = std::string (*)(clsGrid &, RandomDraw &, const Fleet *given, Taste);
 
 void simulateGames(Game game, int size, int games, const QString &fleetFile, Taste taste) {

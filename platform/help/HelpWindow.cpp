@@ -46,7 +46,7 @@ HelpWindow::HelpWindow(const QString &file) : book_(folder_.filePath("buch.qhc")
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle("Korvel – Hilfe");
   resize(kWindow.boundedTo(screen()->availableSize()));
-  // The style draws no frame that would tell where the keys go.
+  // The style draws no frame that shows where the focus is.
   setStyleSheet("QAbstractScrollArea { border: 1px solid palette(mid); margin: 1px; }"
                 "QAbstractScrollArea:focus { border: 2px solid palette(highlight); margin: 0; }");
 

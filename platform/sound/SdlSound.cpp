@@ -23,7 +23,7 @@ constexpr int kBufferFrames = 1024; // 23 ms
 constexpr std::chrono::milliseconds kDelay{1000 * (kBufferFrames + SdlSound::kFadeFrames) / kRate +
                                            1};
 constexpr qsizetype kMostRemembered = 1'000'000; // bytes: all but the jingle of 19 s
-/// SDL may be at work for so long before the game goes on without sound.
+/// How long the game waits for SDL before it goes on without sound.
 constexpr std::chrono::milliseconds kPatience{500};
 constexpr std::chrono::seconds kRetry{10};
 constexpr std::chrono::seconds kSilence{30}; // longer than the longest sound, 19 s

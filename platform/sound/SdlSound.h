@@ -15,7 +15,7 @@ public:
   SdlSound();
   SdlSound(const SdlSound &) = delete;
   SdlSound &operator=(const SdlSound &) = delete;
-  /// If the thread is stuck in SDL it is left to itself.
+  /// If the thread is stuck in SDL it is detached.
   ~SdlSound() override;
 
   /// After a failure the next attempt is made ten seconds later at the earliest.
@@ -25,7 +25,7 @@ public:
   /// A device that has been opening for half a second counts as none, until it is open.
   bool playToEnd(const Klang &klang) override;
 
-  /// So many frames a cut sound takes to fade out, 5 ms, as a sudden end would click.
+  /// Frames that a cut sound takes to fade out, 5 ms, as a sudden end would click.
   static constexpr int kFadeFrames = 220;
 
   /// The sound in the format of the device, 44.1 kHz, stereo, 16 bits; empty if it is no WAV file

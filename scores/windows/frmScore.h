@@ -10,13 +10,13 @@
 #include <array>
 #include <functional>
 
-/// What the windows of the top ten work with. All of it must outlive them, but for the board, which
-/// is asked only when a top ten is made.
+/// What the windows of the top ten work with. All of it must outlive them. Only the board need not:
+/// it is read only while a top ten is made.
 struct ScoreServices {
   Score &score;
   const clsGrid &Grid; ///< its size decides which list is shown first
   SoundPlayer &player;
-  /// Tells the user of a failure that ends the program, and ends it.
+  /// Shows the user why the program has to end, and ends it.
   std::function<void(const QString &text)> fatal;
 };
 
@@ -32,7 +32,7 @@ public:
   /// The place that blinks, 1 to 10; 0 for none.
   void setPlatz(int Platz);
 
-  /// Shows the window and returns when it has closed for good.
+  /// Shows the window. Returns when it is closed, not while it is hidden for a question.
   void showModally();
 
 protected:

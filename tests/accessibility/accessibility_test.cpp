@@ -31,8 +31,7 @@ double contrast(QRgb a, QRgb b) {
   return (std::max(first, second) + .05) / (std::min(first, second) + .05);
 }
 
-/// The least contrast between the ink of a text and what lies behind it, by what changes without
-/// it.
+/// The least contrast between a text and its background, found by taking the text away.
 double contrastOf(QWidget &control) {
   const QRect place(control.mapTo(control.window(), QPoint()), control.size());
   const QVariant text = control.property("text");
@@ -92,7 +91,7 @@ struct Accessibility : Stage {
       for (const auto &[ink, ground] : pairs)
         EXPECT_GE(contrast(palette.color(ink).rgb(), palette.color(ground).rgb()), 4.5) << ink;
     }
-    window.setAttribute(Qt::WA_KeyboardFocusChange); // as behind a Tab
+    window.setAttribute(Qt::WA_KeyboardFocusChange); // as after a Tab
     for (QWidget *control : controls)
       if (control->focusPolicy() & Qt::TabFocus) {
         window.setFocus();
@@ -149,7 +148,7 @@ TEST_F(Accessibility, FieldsTellTheCellUnderThePointerAsItLooks) {
   EXPECT_EQ(told("picpFeld", hidden.X, hidden.Y), at(hidden) + "Wasser");
   EXPECT_EQ(told("piccFeld", own.X, own.Y), at(own) + "Boot");
   EXPECT_EQ(read(control("picpFeld"), QAccessible::Description), "") << "left";
-  // A shot tells readers that the cell looks different now.
+  // Screen readers hear of a cell that a shot has changed.
   static int changes = 0;
   QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
   QAccessible::installUpdateHandler([](QAccessibleEvent *event) {

@@ -114,7 +114,7 @@ def links(scores, file):
     run(scores, file, "")
     game.expect(file.is_symlink() and target.samefile(other), "a link is lost")
     game.expect(stat.S_IMODE(target.stat().st_mode) == 0o646, "another mode")
-    game.expect(other.read_bytes() == WHOLE + b"behind", "behind the link:",
+    game.expect(other.read_bytes() == WHOLE + b"behind", "at the end of the link:",
                 game.names(other.read_bytes()))
 
     target.unlink()  # the link leads nowhere now

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Kills a game at random moments of its saves, five hundred times: the file is then the table after
-the last result that the game has told of, or after the next one, to the byte. Every fifth game is
+the last result that the game has reported, or after the next one, to the byte. Every fifth game is
 killed while it makes its file at a first start."""
 import random
 import time
@@ -52,11 +52,11 @@ def attack(scores, folder):
         if first_start and told == 0:
             whole.append(b"")
             making += left in (b"", game.RESET)
-        game.expect(left in whole, f"kill {kills}, {told} results told of:", game.names(left))
+        game.expect(left in whole, f"kill {kills}, {told} results reported:", game.names(left))
         game.expect(not messages, messages)
         untold += left == game.table("A", told + 1)
     return (f"{kills} kills during {saves} saves left whole tables, {untold} with a result not yet "
-            f"told of, {making} just made or empty at a first start")
+            f"reported, {making} just made or empty at a first start")
 
 
 game.main(attack)

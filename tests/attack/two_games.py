@@ -81,7 +81,7 @@ def start_during_save(scores, file):
 
 
 def save_during_start(scores, file):
-    """A save waits for a game that is in the middle of reading, but not for ever."""
+    """A save waits for a game that is in the middle of reading, but not forever."""
     file.write_bytes(game.RESET)
     process = game.start(scores, file)
     game.await_loaded(process)

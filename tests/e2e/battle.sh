@@ -9,7 +9,7 @@
 source "$(dirname "$0")/screen.sh"
 
 boats=("1,1 2,1 3,1 3,2" "5,1 6,1 7,1" "1,4 1,5 2,5" "9,1 10,1" "4,4 4,5" "6,3" "8,5" "10,8")
-still_to_set=(000223 000123 000023 000013 000003 000002 000001 000000) # behind each boat
+still_to_set=(000223 000123 000023 000013 000003 000002 000001 000000) # after each boat
 read -ra cells <<<"$(echo {1..10},{1..8})"
 printf -v water '.%.0s' {1..80}
 left='' right='' mine='' theirs='' bin=''
@@ -98,7 +98,7 @@ new_game() {
     -shave 2x2 +repage "$1"
 }
 
-# New fields are all water, and all counters of the computer are 0: these pictures get known.
+# New fields are all water, and all counters of the computer are 0: so these pictures become known.
 is_new_game() {
   local i
   see || return 1
@@ -128,7 +128,7 @@ set_fleet() {
   for i in "${!boats[@]}"; do
     read -ra boat <<<"${boats[i]}"
     press_cells "${boat[@]}"
-    if ((i == 0)); then # the picture of boats gets known
+    if ((i == 0)); then # the picture of boats becomes known
       await "boat 1" left="$(put "$water" "$mark" "${boat[@]}")" mine="${still_to_set[0]}"
       meaning[${pictures[0]}]='#'
     fi
@@ -139,7 +139,7 @@ set_fleet() {
   await "Ja" left="$water" right="$fleet" mine=001223 theirs=001223
 }
 
-# Shot by shot until a reply has missed, whose picture gets known as `o`; then cells again.
+# Shot by shot until a reply has missed, whose picture becomes known as `o`; then two cells again.
 shoot_singly() {
   local i=0 j
   until ((i >= 3)) && [[ $right == *o* ]]; do
@@ -155,7 +155,7 @@ shoot_singly() {
 }
 
 # hunt: one shot where most is unknown, or beside a boat that is hit. Pictures of hits `*` and of
-# sunk boats `+` get known by what they do to the counters.
+# sunk boats `+` become known by what they do to the counters.
 hunt() {
   local i x y cell best=-1 score counters=$theirs
   for i in {0..79}; do
@@ -256,7 +256,7 @@ last=("left=$left" "right=$right" "mine=$mine" "theirs=$theirs")
 press_cells "${cells[@]}"
 press main 315 31
 answer $nein
-await "presses behind the end and Nein" "${last[@]}"
+await "presses after the end and Nein" "${last[@]}"
 
 # Further games in the same window, until the other side has won as well.
 first=$winner

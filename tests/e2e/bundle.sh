@@ -33,7 +33,7 @@ cmp Combo.txt "$tests/../../assets/names/Combo.txt"
 [ -z "$(find . -name 'Score*')" ] || fail "a top ten is in the bundle"
 ! readelf -d Korvel ./*.so | grep -E 'R(UN)?PATH' || fail "it looks for libraries elsewhere"
 
-# 2. Into the menu, which finds the game where it stands, and out of it.
+# 2. Into the menu, which finds the game in its folder, and out of it.
 validate korvel.desktop de.korvel.korvel.metainfo.xml
 export XDG_DATA_HOME=$tmp/data
 ./menue >/dev/null
@@ -50,5 +50,5 @@ PYTHON
 ./menue --weg >/dev/null
 [ -z "$(find "$tmp/data" -type f)" ] || fail "left behind: $(find "$tmp/data" -type f)"
 
-# 3. To those who play it.
+# 3. Left for the tests that play it.
 mv "$PWD" "$folder"

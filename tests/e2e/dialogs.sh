@@ -34,7 +34,7 @@ name() {
   xdotool windowfocus "${window[dialog]}" key "$@"
   press dialog 80 112 108 180 # size 1, OK
   poll 30 is_begun || fail "expected that OK closes the dialog"
-  press main 65 146 # comes behind the new name
+  press main 65 146 # comes after the new name
   poll 30 has_boat || fail "expected a new game of size 1"
   convert "$tmp/screen.ppm" -crop "253x19+$((wx[main] + 52))+$((wy[main] + 114))" +repage \
     -format '%#' info:

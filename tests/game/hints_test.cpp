@@ -22,7 +22,7 @@ struct Hints : Stage {
   QString hint() { return balloon()->isVisible() ? balloon()->accessibleName() : ""; }
   QTimer &timer() { return *window->findChild<QTimer *>("timTTip"); }
   void tick() { QMetaObject::invokeMethod(&timer(), "timeout"); }
-  /// As the window system tells it: the window finds the control.
+  /// As the window system does it: the window finds the control.
   void moveTo(QPoint point) { QTest::mouseMove(window->windowHandle(), point); }
   void press(QPoint point, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(window->windowHandle(), button, {}, point);

@@ -1,6 +1,6 @@
 // A monkey at the real windows: a hundred thousand random events, and after each of them what has
-// to hold in every position. Time, chance and sound are in its hand, so a run is told by its seed,
-// which it prints: KORVEL_SEED=17 repeats run 17.
+// to hold in every position. Time, chance and sound are in its hand, so its seed fixes a run.
+// It prints the seed: KORVEL_SEED=17 repeats run 17.
 
 #include "Stage.h"
 #include "players.h"
@@ -25,7 +25,7 @@ struct Heard : QuietSound {
   void sleep(int) override { ++calls; }
 };
 
-/// One side as the arrays tell it.
+/// One side as the arrays show it.
 struct Side {
   int boats[6]{}; ///< not sunk, or in the set-up not complete, lengths 6 down to 1
   int hits = 0, misses = 0, sunk = 0, afloat = 0;
@@ -78,7 +78,7 @@ struct Monkey : Stage {
     mode_ = frmHaupt::Idle;
   }
 
-  /// Comes back wherever events run: in a dialog, and in the midst of the game's handlers.
+  /// Comes back wherever events run: in a dialog, and during the game's handlers.
   void wake() {
     QTimer::singleShot(0, &here_, [this] {
       wake();
@@ -253,7 +253,7 @@ struct Monkey : Stage {
     const int misses = human.misses - std::exchange(misses_, human.misses);
     replies_ += human.hits - std::exchange(hits_, human.hits);
     replies_ += std::exchange(sunk_, human.sunk) == human.sunk ? misses : 0;
-    EXPECT_EQ(replies_, shots - (computer.afloat == 0)) << "a reply to each, but the winning one";
+    EXPECT_EQ(replies_, shots - (computer.afloat == 0)) << "a reply to each but the winning one";
     EXPECT_EQ(window->BombenZahl(0), shots);
     EXPECT_EQ(window->BombenZahl(1), replies_);
     EXPECT_TRUE(!outermost || mode == frmHaupt::Over || (human.afloat > 0 && computer.afloat > 0));
@@ -271,7 +271,7 @@ struct Monkey : Stage {
     QTest::keyClick(window.get(), Qt::Key_F1);
     tick(timTTip());
     QCoreApplication::processEvents();
-    EXPECT_EQ(seen(), before) << "something happens behind the end";
+    EXPECT_EQ(seen(), before) << "something happens after the end";
     check(window.get());
   }
 

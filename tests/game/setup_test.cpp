@@ -84,7 +84,7 @@ TEST_F(FleetSetup, WholeFleetIsAskedForAndMoves) {
   EXPECT_EQ(counters(),
             (std::vector<QString>{"0", "0", "1", "2", "2", "3", "0", "0", "1", "2", "2", "3"}));
 
-  // The second press of a double click on Ja is none on the field below.
+  // The second press of a double click on Ja is no press on the field below.
   const QPointF place(13, 13);
   QMouseEvent second(QEvent::MouseButtonDblClick, place, place, Qt::LeftButton, Qt::LeftButton, {});
   QApplication::sendEvent(&control("picpFeld"), &second);

@@ -62,7 +62,7 @@ TEST_F(Window, NewGameTakesNameAndSizeAndCancelNothing) {
   EXPECT_TRUE(window->grid()->PBoote(1).hasPoints()) << "the boat in work is still there";
 }
 
-// A command that waits for a timer could come in the midst of the next turn.
+// A command that waits for a timer could come during the next turn.
 TEST_F(Window, AccessKeysActAtOnce) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   Robot::answer("cmdOK");
@@ -86,7 +86,7 @@ TEST_F(Window, LeavingAsksFirst) {
 
 TEST_F(Window, FleetThatCannotBeMadeEndsTheProgram) {
   struct : RandomDraw {
-    double next() override { return 0; } // a corner, for ever
+    double next() override { return 0; } // always a corner
   } stuck;
   robot.reset();
   window = Main(globals, {stuck, sound, store, messages, help}, folder.path());

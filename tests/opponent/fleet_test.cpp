@@ -5,7 +5,7 @@ namespace {
 using FleetTest = BoardTest;
 
 TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
-  // Boat 1 begins at (1, 4), whose only way on is (2, 4), and from there is none but back.
+  // Boat 1 begins at (1, 4). It can go on only to (2, 4), and from there only back.
   probe.forEach("...G/GGGG/...G/...G/...G/GGGG/...G/...G",
                 [&](int X, int Y, char cell) { probe.CFeld().set(X, Y, 1, cell == 'G' ? 7 : 0); });
   draw.expect(1, 10);

@@ -102,7 +102,7 @@ struct Honesty : BoardTest {
     grid.Treffer = Treffer;
     if (calls.size() > 1)
       return "";
-    return calls.front().substr(calls.front().find(' ', 6)); // behind "right" and the picture
+    return calls.front().substr(calls.front().find(' ', 6)); // after "right" and the picture
   }
 };
 

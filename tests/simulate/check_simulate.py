@@ -186,7 +186,7 @@ def step_shares(sea, taken, cell):
 def outlook(sea, taken, cell, missing):
     """The chance that a walk gets through from a cell, None for a dead end.
 
-    A walk steps back from a dead end and draws again. It comes back for ever, and the try
+    A walk steps back from a dead end and draws again. It comes back forever, and the try
     fails, where every way on is a dead end.
     """
     if missing == 0:
@@ -313,7 +313,7 @@ def rank(candidates):
 # ---- replay of a game
 
 class Game:
-    """One game as the program tells it, replayed shot by shot."""
+    """One game as the program reports it, replayed shot by shot."""
 
     def __init__(self, sea, data):
         self.sea = sea
@@ -647,7 +647,7 @@ def check_refused(report, program, name, arguments, games_before=0, named=()):
 
 
 def check_broken_fleet(report, program, name, fleet, named):
-    """A broken fleet behind two good ones, whose games may have been told already."""
+    """A broken fleet after two good ones, whose games may have been printed already."""
     good = fleet_json(GOOD_FLEET)
     file = program.write(f"{good}\n{good}\n{fleet}\n")
     check_refused(report, program, f"fleet {name}", ("--size", "1", "--games", "3", "--fleets", file), 2, named)

@@ -5,7 +5,7 @@
 #include <deque>
 #include <random>
 
-/// Gives the numbers that it is told to; then, unless the script must suffice, seeded random ones.
+/// Gives the numbers of its script; then seeded random ones, unless the script must suffice.
 class ScriptedDraw : public RandomDraw {
 public:
   explicit ScriptedDraw(unsigned seed = 1) : random_(seed) {}

@@ -1,5 +1,5 @@
-// What the leak checker is told. A file of suppressions would have to be named in an option, where
-// a path with a space or a colon falls apart.
+// Settings of the leak checker. They are not in a file, as the option that would name it takes no
+// path with a space or a colon.
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the names that the checker looks for
 

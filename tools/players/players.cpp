@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int kBoatTries = 50; // new beginnings of one boat
+constexpr int kBoatTries = 50; // attempts at one boat
 
 bool pleases(Taste taste, const clsGrid &grid, int BootID, const Cell &cell) {
   if (taste == Taste::rim)

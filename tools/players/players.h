@@ -6,7 +6,7 @@
 #include <vector>
 
 /// Stand-ins for the human, for bulk games, tests and the demonstration. Unlike the computer they
-/// are handed the whole board.
+/// are given the whole board.
 
 /// What a player who sets a fleet likes, beyond what the rules ask: nothing, boats in a line, or
 /// all cells on the rim of the field.
@@ -17,15 +17,15 @@ std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &dra
                                 Taste taste = Taste::any);
 
 /// Sets the human's whole fleet at random by the rules of placement. A boat that cannot go on is
-/// deleted and begun anew. False if no fleet came of it after many attempts; the fields must be
-/// made anew then.
+/// deleted and begun again. False if many attempts gave no fleet; the fields must then be emptied
+/// again.
 bool setRandomFleet(clsGrid &grid, RandomDraw &draw, Taste taste = Taste::any);
 
 /// Presses cells at random, now and then one again. In about one game of four the player is lucky
 /// and finds boats often enough to win.
 class RandomGunner {
 public:
-  /// For one game on a board that stands. Both must outlive the gunner.
+  /// For one game on a board with both fleets. Both must outlive the gunner.
   RandomGunner(const clsGrid &grid, RandomDraw &draw);
 
   /// The next press. Some cell must not have been shot at.
