@@ -4,6 +4,7 @@
 #include "Label.h"
 #include "RandomDraw.h"
 #include "Surface.h"
+#include "geometry.h"
 #include "tBoot.h"
 #include "tables.h"
 
@@ -74,6 +75,7 @@ public:
   void setSize(int Size);
 
   int CellSize() const { return kCellSize[sizeIndex(Size_)]; } ///< edge of a cell in pixels
+  CellGeometry geometry() const { return {CellSize()}; }
   int columns() const { return columnsOf(Size_); }
   int rows() const { return rowsOf(Size_); }
   int BoatCount() const { return static_cast<int>(PBoote_.size()); } ///< boats of the human
@@ -106,6 +108,9 @@ public:
   void DeleteBoat(int BootID);
   /// The left surface loses the fleet, the right one shows it.
   void MoveFleet();
+
+  /// What a surface shows in a cell, as it was drawn last; nothing for a point of the boat in work.
+  std::optional<Picture> Shown(const Surface &surface, int X, int Y) const;
 
   // The battle.
 
@@ -145,7 +150,9 @@ private:
 
   void InitPictures();
   void ClearPictures();
-  void show(Picture picture, Surface &surface, int X, int Y) const;
+  void show(Picture picture, Surface &surface, int X, int Y);
+  void showPoint(int X, int Y);
+  bool isLeft(const Surface &surface) const { return &surface == PicPlayer_; }
 
   bool PlaceComputerBoats();
   bool CreateComputerBoat(int BootID);
@@ -163,6 +170,7 @@ private:
   Label *NameLabel_ = nullptr;
   std::string PlayerName_;
   int Size_ = 1;
+  std::array<Layer, 2> shownOn_{Layer(columns(), rows()), Layer(columns(), rows())}; ///< 1 left
   Field CFeld_;
   Field PFeld_;
   std::vector<tBoot> CBoote_;

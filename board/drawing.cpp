@@ -1,24 +1,39 @@
-// The geometry of a field and its building from nothing.
-//
-// With c the cell edge and p = c + 1, lines of one pixel stand at 0, p, 2p, ... and the inside of
-// cell (X, Y) begins at (p * (X - 1) + 1, p * (Y - 1) + 1):
-//
-//     0       p       2p
-//     |1 ... c|p+1 ...|
+// A field drawn from nothing, and cell by cell.
 
 #include "clsGrid.h"
 
-void clsGrid::show(Picture picture, Surface &surface, int X, int Y) const {
-  const int c = CellSize();
-  surface.sprite(picture, (c + 1) * (X - 1) + 1, (c + 1) * (Y - 1) + 1, c, c);
+namespace {
+constexpr std::uint8_t kPoint = 255; // in place of a picture
+}
+
+void clsGrid::show(Picture picture, Surface &surface, int X, int Y) {
+  shownOn_[isLeft(surface)].set(X, Y, static_cast<std::uint8_t>(picture));
+  const auto cell = geometry();
+  surface.sprite(picture, cell.first(X), cell.first(Y), cell.c, cell.c);
+}
+
+// A point of the boat in work.
+void clsGrid::showPoint(int X, int Y) {
+  shownOn_[true].set(X, Y, kPoint);
+  const auto cell = geometry();
+  PicPlayer_->setDrawWidth(1);
+  PicPlayer_->filledBox(cell.first(X), cell.first(Y), cell.first(X) + cell.c - 1,
+                        cell.first(Y) + cell.c - 1, Colour::blue);
+}
+
+std::optional<Picture> clsGrid::Shown(const Surface &surface, int X, int Y) const {
+  const std::uint8_t shown = shownOn_[isLeft(surface)](X, Y);
+  return shown == kPoint ? std::nullopt : std::optional(static_cast<Picture>(shown));
 }
 
 void clsGrid::InitPictures() {
   // A line before each cell and one after the last, and a border of one pixel at each side.
-  const int p = CellSize() + 1;
+  const int p = geometry().p;
   const int width = columns() * p + 3;
   const int height = rows() * p + 3;
 
+  for (Layer &shown : shownOn_)
+    shown.reset(columns(), rows());
   for (Surface *surface : {PicComputer_, PicPlayer_}) {
     surface->setWidth(width);
     surface->setHeight(height);

@@ -64,10 +64,7 @@ bool clsGrid::SetPoint(int BootID, int n, int X, int Y) {
   tBoot &boot = PBoote_[boat(BootID)];
   PFeld_.set(X, Y, 1, static_cast<std::uint8_t>(BootID));
   boot.setPoint(n, X, Y);
-
-  const int p = CellSize() + 1;
-  PicPlayer_->setDrawWidth(1);
-  PicPlayer_->filledBox(p * (X - 1) + 1, p * (Y - 1) + 1, p * X - 1, p * Y - 1, Colour::blue);
+  showPoint(X, Y);
   verify();
   return n != boot.length();
 }

@@ -98,8 +98,10 @@ bool frmNeu::eventFilter(QObject *watched, QEvent *event) {
   } else if (event->type() == QEvent::InputMethod) {
     auto &input = static_cast<QInputMethodEvent &>(*event);
     const QString &commit = input.commitString();
-    if (isFull() && !(commit.isEmpty() && input.preeditString().isEmpty())) {
-      QGuiApplication::inputMethod()->reset();
+    const bool composes = !input.preeditString().isEmpty();
+    if (isFull() && (composes || !commit.isEmpty())) {
+      if (composes)
+        QGuiApplication::inputMethod()->reset();
       return true;
     }
     const QLineEdit &edit = *cboName_.lineEdit();

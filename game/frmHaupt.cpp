@@ -122,6 +122,8 @@ void frmHaupt::buildFields() {
   picpFeld.setAccessibleName("Linkes Feld");
   picpFeld.setCursor(loadPointer("fadenkreuz"));
   connect(&picpFeld, &PictureBox::pressed, this, &frmHaupt::picpFeld_MouseDown);
+  for (PictureBox *field : {&picpFeld, &piccFeld})
+    field->describe = [this, field](const QPoint &pixel) { return describeCell(*field, pixel); };
   piccFeld.setObjectName("piccFeld");
   piccFeld.setAccessibleName("Rechtes Feld");
   piccFeld.setEnabled(false);
@@ -139,6 +141,22 @@ void frmHaupt::buildFields() {
   imgMüll.resize(kBin);
   imgMüll.setPicture(globals_.MuellIcon[0]);
   connect(&imgMüll, &ImageButton::clicked, this, &frmHaupt::imgMuell_Click);
+}
+
+// What screen readers say of the cell at a pixel: what is seen there, never more.
+QString frmHaupt::describeCell(const PictureBox &field, const QPoint &pixel) const {
+  constexpr std::array kWords{"Wasser", "Boot", "daneben", "Treffer", "versenkt"};
+  if (closed())
+    return {};
+  const auto cell =
+      Grid->geometry().cellAt(pixel.x(), pixel.y(), field.innerWidth(), field.innerHeight());
+  if (!cell)
+    return {};
+  const auto shown = Grid->Shown(field, cell->X, cell->Y);
+  return QString("Spalte %1, Zeile %2: %3")
+      .arg(cell->X)
+      .arg(cell->Y)
+      .arg(shown ? kWords[static_cast<std::size_t>(*shown)] : "Boot im Bau");
 }
 
 void frmHaupt::buildCounters() {

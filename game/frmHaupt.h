@@ -65,6 +65,7 @@ private:
   void buildToolbar();
   void buildFields();
   void buildCounters();
+  QString describeCell(const PictureBox &field, const QPoint &pixel) const;
   void runCommand(const QString &key);
   void Form_Unload();
   void Grid_ChangePicSize();

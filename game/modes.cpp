@@ -1,8 +1,8 @@
 // The modes of a game, the start of a new one, and what a press does in each mode.
 
+#include "EventPump.h"
 #include "frmHaupt.h"
 #include "frmNeu.h"
-#include "press.h"
 
 void frmHaupt::setModus(Mode mode) {
   Modus_ = mode;
@@ -79,11 +79,12 @@ void frmHaupt::picpFeld_MouseDown(Qt::MouseButton button, int X, int Y) {
   closeHint();
   if (closed() || button != Qt::LeftButton)
     return;
-  const auto cell = cellAt(X, Y, picpFeld.innerWidth(), picpFeld.innerHeight(), Grid->CellSize());
+  const auto cell = Grid->geometry().cellAt(X, Y, picpFeld.innerWidth(), picpFeld.innerHeight());
   if (!cell)
     return;
   if (Modus_ == Setup)
     setPoint(*cell);
   else if (Modus_ == Battle)
     takeTurn(*cell);
+  letEventsRun(); // a close that came during a sound goes before the input that came with it
 }

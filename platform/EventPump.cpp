@@ -1,6 +1,7 @@
 #include "EventPump.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QWidget>
 #include <QWindow>
@@ -23,26 +24,34 @@ public:
   }
 
 protected:
-  // Input is seen here on its way to a window, before a widget gets it. While some input is kept,
-  // later input has to wait too.
+  // What comes while some input is kept has to queue up after it.
   bool eventFilter(QObject *watched, QEvent *event) override {
-    if (!watched->isWindowType() || !isInput(event->type()) || (depth_ == 0 && kept_.empty()))
+    if (!isInput(*watched, event->type()) || (depth_ == 0 && kept_.empty()))
       return false;
     if (event == handedOn_) {
       handedOn_ = nullptr;
       return false;
     }
-    kept_.push_back({static_cast<QWindow *>(watched), std::unique_ptr<QEvent>(event->clone())});
+    kept_.push_back({watched, std::unique_ptr<QEvent>(event->clone())});
+    // The copy shares its place with the pointing device, and Qt writes the next event's place
+    // there. An event of the same place, made now, leaves the copy its own.
+    if (event->isSinglePointEvent()) {
+      const auto &at = static_cast<QSinglePointEvent &>(*event);
+      QMouseEvent(QEvent::MouseMove, at.position(), at.scenePosition(), at.globalPosition(),
+                  at.button(), at.buttons(), at.modifiers(), at.pointingDevice());
+    }
     return true;
   }
 
 private:
   struct Input {
-    QPointer<QWindow> window;
+    QPointer<QObject> receiver;
     std::unique_ptr<QEvent> event;
   };
 
-  static bool isInput(QEvent::Type type) {
+  // Input is seen on its way to a window, before it is a widget's; but an access key comes to its
+  // control at once.
+  static bool isInput(const QObject &receiver, QEvent::Type type) {
     switch (type) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -53,16 +62,25 @@ private:
     case QEvent::Wheel:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-      return true;
+      return receiver.isWindowType();
+    case QEvent::Shortcut:
+      return receiver.isWidgetType();
     default:
       return false;
     }
   }
 
   // A window that is hidden or blocked by a dialog gets no input from the window system either.
-  static bool takesInput(const QWindow &window) {
+  static bool takesInput(QObject &receiver) {
+    const auto *control = qobject_cast<QWidget *>(&receiver);
+    const QWindow *window =
+        control ? control->window()->windowHandle() : static_cast<QWindow *>(&receiver);
     const QWidget *dialog = QApplication::activeModalWidget();
-    return window.isVisible() && !(dialog && window.isAncestorOf(dialog->windowHandle()));
+    if (!window || !window->isVisible())
+      return false;
+    return !dialog || window == dialog->windowHandle() ||
+           (dialog->windowModality() != Qt::ApplicationModal &&
+            !window->isAncestorOf(dialog->windowHandle()));
   }
 
   void handOnLater() {
@@ -77,10 +95,10 @@ private:
     const Input input = std::move(kept_.front());
     kept_.pop_front();
     handOnLater(); // the next one, also if a dialog that this one opens keeps its handler waiting
-    if (!input.window || !takesInput(*input.window))
+    if (!input.receiver || !takesInput(*input.receiver))
       return;
     handedOn_ = input.event.get();
-    qApp->notify(input.window, input.event.get()); // `sendEvent` would mark it as not the user's
+    qApp->notify(input.receiver, input.event.get()); // `sendEvent` would mark it as not the user's
   }
 
   int depth_ = 0; ///< of `letEventsRun`

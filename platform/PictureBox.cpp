@@ -14,7 +14,6 @@ constexpr int kBorder = 1;
 
 // In the order of `Picture`.
 constexpr std::array kSpriteNames{"wasser", "boot", "daneben", "treffer", "versenkt"};
-constexpr std::array kSpriteWords{"Wasser", "Boot", "daneben", "Treffer", "versenkt"};
 
 QColor colourOf(Colour colour) {
   return colour == Colour::blue ? QColor(0, 0, 255) : QColor(Qt::black);
@@ -71,7 +70,6 @@ void PictureBox::clear() {
   content_ = QImage(QSize(innerWidth(), innerHeight()) * ratio, QImage::Format_RGB32);
   content_.setDevicePixelRatio(ratio);
   content_.fill(Qt::white);
-  seen_.clear();
   update();
 }
 
@@ -86,7 +84,7 @@ void PictureBox::line(int x1, int y1, int x2, int y2, Colour colour) {
 
 void PictureBox::filledBox(int x1, int y1, int x2, int y2, Colour colour) {
   fill(QRect(QPoint(x1, y1), QPoint(x2, y2)), colour);
-  see(QRect(QPoint(x1, y1), QPoint(x2, y2)), "Boot im Bau");
+  tellReaders();
 }
 
 void PictureBox::fill(const QRect &area, Colour colour) {
@@ -102,25 +100,11 @@ void PictureBox::sprite(Picture picture, int x, int y, int width, int height) {
   painter.drawImage(QRect(x, y, width, height),
                     sprites_.stretched(picture, width * ratio, height * ratio));
   update(x + kBorder, y + kBorder, width, height);
-  see({x, y, width, height}, kSpriteWords[static_cast<std::size_t>(picture)]);
-}
-
-void PictureBox::see(const QRect &cell, const char *what) {
-  seen_[{cell.x(), cell.y()}] = what;
-  cell_ = cell.size();
-  if (pointer_ && cell.contains(*pointer_))
-    tellReaders();
+  tellReaders();
 }
 
 QString PictureBox::seenUnderPointer() const {
-  if (pointer_)
-    for (const auto &[corner, what] : seen_)
-      if (const QRect cell({corner.first, corner.second}, cell_); cell.contains(*pointer_))
-        return QString("Spalte %1, Zeile %2: %3") // cells are a line apart
-            .arg(cell.x() / (cell.width() + 1) + 1)
-            .arg(cell.y() / (cell.height() + 1) + 1)
-            .arg(what);
-  return {};
+  return pointer_ && describe ? describe(*pointer_) : QString();
 }
 
 void PictureBox::setPointer(std::optional<QPoint> pixel) {

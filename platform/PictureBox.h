@@ -7,7 +7,7 @@
 #include <QWidget>
 
 #include <array>
-#include <map>
+#include <functional>
 #include <optional>
 
 /// The five pictures of the cells, as the start-up loads them, and their stretched forms.
@@ -49,8 +49,10 @@ public:
 
   const QImage &content() const { return content_; }
 
-  /// The cell under the pointer in words, and what is seen there; empty between the cells. Screen
-  /// readers get it as the description of the box, and a notice when it changes.
+  /// Says in words what is seen at a pixel of the drawing area. Screen readers get it for the pixel
+  /// under the pointer, as the description of the box, and a notice when it changes.
+  std::function<QString(const QPoint &pixel)> describe;
+  /// What `describe` says now; empty if the pointer is elsewhere.
   QString seenUnderPointer() const;
 
 signals:
@@ -67,14 +69,11 @@ protected:
 private:
   void fill(const QRect &area, Colour colour);
   void setPointer(std::optional<QPoint> pixel);
-  void see(const QRect &cell, const char *what);
   void tellReaders();
 
   const Sprites &sprites_;
   QImage content_; ///< the drawing area
   int drawWidth_ = 1;
-  std::map<std::pair<int, int>, const char *> seen_; ///< in words, by the top left of a cell
-  QSize cell_;
   std::optional<QPoint> pointer_; ///< in the drawing area
   QString told_;
   bool wasPressed_ = false; ///< since the last dialog

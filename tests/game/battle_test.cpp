@@ -1,5 +1,6 @@
 #include "Stage.h"
 
+#include <QTest>
 #include <QWindow>
 #include <qpa/qwindowsysteminterface.h>
 
@@ -23,6 +24,10 @@ void queueClick(QWidget &control, QPoint at) {
     QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
         handle, local, handle->mapToGlobal(local),
         type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type);
+  // The pointer goes on at once.
+  QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
+      handle, QPointF(9, 460), handle->mapToGlobal(QPointF(9, 460)), Qt::NoButton, Qt::NoButton,
+      QEvent::MouseMove);
 }
 
 QPoint middleOf(const Cell &cell) { return QPoint(25 * cell.X - 12, 25 * cell.Y - 12); }
@@ -70,17 +75,36 @@ TEST_F(Battle, QueuedPressesDoNotNest) {
   const Cell first = fresh(8); // sinks: events run twice in its turn
   for (const Cell &cell : {first, fresh(7), fresh(7), fresh(0)})
     queueClick(control("picpFeld"), middleOf(cell));
-  Robot::answer("cmdAbbruch"); // the question of the last command
-  queueClick(control("keyEnde"), {45, 30});
+  Robot::onDialog([](QDialog &topTen) { topTen.close(); });
+  queueClick(control("keyTop10"), {45, 30});
   for (int i = 0; i < 20; ++i)
     QCoreApplication::processEvents();
 
   Log log = sounds(sound.log);
-  ASSERT_EQ(log.size(), 7u);
+  ASSERT_EQ(log.size(), 9u);
   log[4].erase(0, log[4].find("wait")); // whether the field was painted in between
   EXPECT_EQ(log, (Log{"LC wait Versenkt", "reply", "LC wait Versenkt", "reply", "wait Doppelt",
-                      "L wait Wasser", "reply"}));
-  EXPECT_TRUE(window->isVisible());
+                      "L wait Wasser", "reply", "start Top10", "start silence"}));
+}
+
+TEST_F(Battle, AQueuedAccessKeyWaitsForTheReply) {
+  startBattle(1);
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  sound.log.clear();
+  queueClick(control("picpFeld"), middleOf(fresh(8)));
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+    QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
+        window->windowHandle(), type, Qt::Key_A, Qt::AltModifier, "a");
+  bool asked = false;
+  Robot::onDialog([&](QDialog &question) {
+    asked = true;
+    EXPECT_EQ(sounds(sound.log), (Log{"LC wait Versenkt", "reply"}));
+    question.close();
+  });
+  for (int i = 0; i < 20; ++i)
+    QCoreApplication::processEvents();
+  EXPECT_TRUE(asked);
 }
 
 TEST_F(Battle, ACloseWaitsForNoQueuedPress) {

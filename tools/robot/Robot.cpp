@@ -19,8 +19,8 @@ void Robot::press(QPoint pixel, Qt::MouseButton button) {
 }
 
 void Robot::press(const Cell &cell) {
-  const int p = window_.grid()->CellSize() + 1;
-  press(QPoint(p * cell.X - p / 2, p * cell.Y - p / 2));
+  const auto geometry = window_.grid()->geometry();
+  press(QPoint(geometry.middle(cell.X), geometry.middle(cell.Y)));
 }
 
 void Robot::onDialog(std::function<void(QDialog &)> deed) {
