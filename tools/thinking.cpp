@@ -3,11 +3,12 @@
 
 #include "ClockDraw.h"
 #include "KnownSea.h"
+#include "json.h"
+#include "number.h"
 #include "players.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -34,13 +35,6 @@ struct Coin : RandomDraw {
 private:
   int side_;
 };
-
-std::string toJson(const std::vector<Cell> &cells) {
-  std::string text = "[";
-  for (const auto &[X, Y] : cells)
-    text += (text.size() > 1 ? ",[" : "[") + std::to_string(X) + ',' + std::to_string(Y) + ']';
-  return text + ']';
-}
 
 template <typename Letter>
 std::string toJson(const Layer &shots, Letter letter) {
@@ -142,14 +136,6 @@ std::optional<std::string> positions(int size, int least, RandomDraw &draw) {
       return "{\"search\":" + *search + ",\"finish\":" + *finish + '}';
   }
   return std::nullopt;
-}
-
-/// A whole number from 1 to `most`; 0 for anything else.
-int number(const char *text, int most) {
-  int value = 0;
-  const char *last = text + std::strlen(text);
-  const auto [end, error] = std::from_chars(text, last, value);
-  return error == std::errc() && end == last && value >= 1 && value <= most ? value : 0;
 }
 
 } // namespace
