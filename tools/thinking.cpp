@@ -8,7 +8,6 @@
 #include "players.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -79,14 +78,10 @@ public:
     const auto second = searchList(known(), tail);
     if (best == second)
       return std::nullopt;
-    std::array<CellRows, 5> withFree;
-    for (int n = 0; n <= 4; ++n)
-      withFree[static_cast<std::size_t>(n)] = HasFreeNeighbours(shots(), n);
+    const CellNumbers numbers = freeNeighbours(shots());
     const std::string free = toJson(shots(), [&](int X, int Y) {
-      for (std::size_t n = 0; n <= 4; ++n)
-        if ((withFree[n][static_cast<std::size_t>(Y)] >> X & 1) != 0)
-          return static_cast<char>('0' + n);
-      return '.';
+      const int n = numbers[indexOf(X, Y)];
+      return n < 0 ? '.' : static_cast<char>('0' + n);
     });
     return "{\"sea\":" + sea() + ",\"free\":" + free + ",\"best\":" + toJson(best) +
            ",\"second\":" + toJson(second) + '}';
