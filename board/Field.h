@@ -1,7 +1,5 @@
 #pragma once
 
-#include "tables.h"
-
 #include <array>
 #include <cassert>
 #include <cstddef>
@@ -16,22 +14,21 @@ struct Cell {
   bool operator==(const Cell &) const = default;
 };
 
-/// One byte for each cell of a field, 0 at first. Which cells hold another value is kept in bits as
-/// well, so that a rule can look at a whole row of cells at once.
+/// The steps to the four edge neighbours of a cell: up, right, down, left. Lists of cells and the
+/// numbers of directions keep this order.
+inline constexpr std::array<Cell, 4> kSteps{{{0, -1}, {1, 0}, {0, 1}, {-1, 0}}};
+
+/// One byte for each cell of a field, 0 at first.
 class Layer {
 public:
-  /// Cells of a row, column X in bit X.
-  using Row = std::uint32_t;
-
   Layer() = default;
   Layer(int columns, int rows) { reset(columns, rows); }
 
-  /// Sets all cells to 0 and, where it has to, the size, which is at most the largest of the game.
+  /// Sets all cells to 0 and, where it has to, the size.
   void reset(int columns, int rows) {
     columns_ = columns;
     rows_ = rows;
     values_.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), 0);
-    filled_.fill(0);
   }
 
   int columns() const { return columns_; }
@@ -44,18 +41,7 @@ public:
   /// The value of a cell on the field.
   std::uint8_t operator()(int X, int Y) const { return values_[index(X, Y)]; }
   /// Gives a cell on the field a value.
-  void set(int X, int Y, std::uint8_t value) {
-    values_[index(X, Y)] = value;
-    Row &row = filled_[static_cast<std::size_t>(Y)];
-    row = value == 0 ? row & ~(Row{1} << X) : row | Row{1} << X;
-  }
-
-  /// The cells of a row that hold another value than 0; none of them lies off the field. `Y` may be
-  /// that of the row above or below the field, too.
-  Row filled(int Y) const {
-    assert(Y >= 0 && Y <= rows_ + 1);
-    return filled_[static_cast<std::size_t>(Y)];
-  }
+  void set(int X, int Y, std::uint8_t value) { values_[index(X, Y)] = value; }
 
 private:
   std::size_t index(int X, int Y) const {
@@ -66,7 +52,6 @@ private:
   int columns_ = 0;
   int rows_ = 0;
   std::vector<std::uint8_t> values_;
-  std::array<Row, rowsOf(kSizes) + 2> filled_{}; ///< by row, with one above and below the field
 };
 
 /// What layer 2 of a field holds of a cell.

@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr std::array<Cell, 4> kEdges{{{0, -1}, {1, 0}, {0, 1}, {-1, 0}}};
 constexpr std::array<Cell, 4> kCorners{{{1, -1}, {1, 1}, {-1, 1}, {-1, -1}}};
 
 int boatAt(const Field &field, int X, int Y) { return field.contains(X, Y) ? field(X, Y, 1) : 0; }
@@ -35,7 +34,7 @@ bool clsGrid::CreatePoint(int BootID, int X, int Y) const {
 bool clsGrid::CheckDistance(int BootID, int X, int Y) const {
   if (PFeld_(X, Y, 1) > 0)
     return false;
-  for (const auto &neighbours : {kEdges, kCorners})
+  for (const auto &neighbours : {kSteps, kCorners})
     for (const auto &[dx, dy] : neighbours) {
       const int other = boatAt(PFeld_, X + dx, Y + dy);
       if (other != 0 && other != BootID)
@@ -46,7 +45,7 @@ bool clsGrid::CheckDistance(int BootID, int X, int Y) const {
 
 // One of the four edge neighbours belongs to the boat.
 bool clsGrid::CheckContact(int BootID, int X, int Y) const {
-  for (const auto &[dx, dy] : kEdges)
+  for (const auto &[dx, dy] : kSteps)
     if (boatAt(PFeld_, X + dx, Y + dy) == BootID)
       return true;
   return false;

@@ -25,19 +25,26 @@ std::vector<Cell> searchList(const KnownSea &sea, RandomDraw &draw);
 /// twice the chance.
 std::vector<Cell> finishingList(const KnownSea &sea);
 
-// Steps of the search, open to tests.
+// Steps of the search, open to tests and tools.
 
-/// Cells of a field by row, from row 1 on; the rows below a smaller field are empty.
-using CellRows = std::array<Layer::Row, rowsOf(kSizes) + 1>;
+/// A number for each cell of the largest sea and of a rim around it, row by row.
+inline constexpr std::size_t kRimmedColumns = columnsOf(kSizes) + 2;
+inline constexpr std::size_t kRimmedRows = rowsOf(kSizes) + 2;
+using CellNumbers = std::array<std::int8_t, kRimmedColumns * kRimmedRows>;
 
-/// All unknown cells of which exactly `n`, 0 to 4, of the four edge neighbours are free. A
+/// Where a `CellNumbers` has the number of a cell.
+constexpr std::size_t indexOf(int X, int Y) {
+  return static_cast<std::size_t>(Y) * kRimmedColumns + static_cast<std::size_t>(X);
+}
+
+/// The number of free edge neighbours of each unknown cell, 0 to 4, and -1 for all other cells. A
 /// neighbour is free if it is unknown or lies off the field.
-CellRows HasFreeNeighbours(const Layer &shots, int n);
+CellNumbers freeNeighbours(const Layer &shots);
 
 /// The number of candidates of a block, and its number from 1; block 0 has no candidate.
 struct BlockRank {
-  std::uint8_t count = 0;
-  std::uint8_t block = 0;
+  int count = 0;
+  int block = 0;
 };
 
 /// Selection sort, ascending by count, of the up to 16 blocks of a sea. Its exact form breaks the

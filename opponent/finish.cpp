@@ -15,9 +15,9 @@ std::vector<Cell> finishingList(const KnownSea &sea) {
   std::vector<Cell> cells;
   cells.reserve(4 * sea.hits.size());
   for (const auto &[X, Y] : sea.hits)
-    for (const Cell &cell : {Cell{X, Y - 1}, Cell{X + 1, Y}, Cell{X, Y + 1}, Cell{X - 1, Y}})
-      if (sea.shots.contains(cell.X, cell.Y) && sea.shots(cell.X, cell.Y) == Shot::none)
-        cells.push_back(cell);
+    for (const auto &[dx, dy] : kSteps)
+      if (sea.shots.contains(X + dx, Y + dy) && sea.shots(X + dx, Y + dy) == Shot::none)
+        cells.push_back({X + dx, Y + dy});
   return cells;
 }
 

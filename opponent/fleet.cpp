@@ -13,10 +13,6 @@
 
 #include "clsGrid.h"
 
-#include <algorithm>
-#include <array>
-#include <bit>
-
 namespace {
 
 constexpr int kTries = 100;
@@ -25,9 +21,7 @@ constexpr int kTries = 100;
 // as failed.
 constexpr int kStepsBack = 1000;
 
-/// Directions 1 up, 2 right, 3 down, 4 left, addressed from 0.
-constexpr std::array<Cell, 4> kSteps{{{0, -1}, {1, 0}, {0, 1}, {-1, 0}}};
-
+/// The step of direction 1 up, 2 right, 3 down or 4 left.
 constexpr Cell step(int Direction) { return kSteps[static_cast<std::size_t>(Direction - 1)]; }
 
 } // namespace
@@ -89,16 +83,15 @@ bool clsGrid::CreateComputerBoat(int BootID) {
   return true;
 }
 
-// Here a neighbour off the field counts as free: the cell on the field next to it, which is looked
-// at anyway, stands in for it.
+// Here a cell off the field counts as free.
 bool clsGrid::FindFreeCell(int &X, int &Y) {
   const Layer &boats = CFeld_.layer(1);
   const auto touches = [&] {
-    int found = 0;
     for (int y = Y - 1; y <= Y + 1; ++y)
       for (int x = X - 1; x <= X + 1; ++x)
-        found |= boats(std::clamp(x, 1, columns()), std::clamp(y, 1, rows()));
-    return found != 0;
+        if (boats.contains(x, y) && boats(x, y) != 0)
+          return true;
+    return false;
   };
   for (int i = 0; i < kTries; ++i) {
     do {
@@ -122,17 +115,16 @@ int clsGrid::FindDirection(int Direction, int X, int Y) const {
     const Cell far = cell(2, 1);
     if (!boats.contains(near.X, near.Y) || !boats.contains(far.X, far.Y))
       return false;
-    int found = 0;
     for (int ahead = 1; ahead <= 2; ++ahead)
       for (int aside = -1; aside <= 1; ++aside)
-        found |= boats(cell(ahead, aside).X, cell(ahead, aside).Y);
-    return found == 0;
+        if (boats(cell(ahead, aside).X, cell(ahead, aside).Y) != 0)
+          return false;
+    return true;
   };
-  // All four at once: to stop at the first open one costs more, as a processor can't foresee it.
-  // They stand twice in a row, so that one shift finds the first from the drawn one on.
-  unsigned open = 0;
-  for (int trial = 1; trial <= 4; ++trial)
-    open |= static_cast<unsigned>(isOpen(step(trial))) * 0x11u << (trial - 1);
-  const int first = std::countr_zero(open >> (Direction - 1));
-  return open == 0 ? 0 : (Direction - 1 + first) % 4 + 1;
+  for (int trial = 0; trial < 4; ++trial) {
+    if (isOpen(step(Direction)))
+      return Direction;
+    Direction = Direction % 4 + 1;
+  }
+  return 0;
 }

@@ -1,19 +1,18 @@
 // The top ten without a window, by the game's own library.
 
 #include "Score.h"
+#include "number.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <charconv>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <iostream>
 #include <limits>
 #include <sstream>
-#include <string_view>
 
 namespace {
 
@@ -37,14 +36,6 @@ constexpr int kMostBombs = std::numeric_limits<std::int16_t>::max();
 int fail(int status, const char *text) {
   std::fprintf(stderr, "%s\n", text);
   return status;
-}
-
-/// A whole number from 1 to `most`; 0 for anything else.
-int number(std::string_view text, int most) {
-  int value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  return whole && value >= 1 && value <= most ? value : 0;
 }
 
 void print(const Score &score) {

@@ -2,6 +2,8 @@
 
 #include "BoatInWork.h"
 #include "ClockDraw.h"
+#include "json.h"
+#include "number.h"
 #include "players.h"
 
 #include <QCommandLineParser>
@@ -92,9 +94,7 @@ Fleet fleetOf(const Line &line, clsGrid &grid) {
 
 // Output.
 
-std::string toJson(const Cell &cell) {
-  return '[' + std::to_string(cell.X) + ',' + std::to_string(cell.Y) + ']';
-}
+using ::toJson; // beside the one here
 
 struct Press {
   Cell cell;
@@ -104,14 +104,6 @@ struct Press {
 std::string toJson(const Press &press) {
   return '[' + std::to_string(press.cell.X) + ',' + std::to_string(press.cell.Y) + ',' +
          std::to_string(static_cast<int>(press.code)) + ']';
-}
-
-template <typename Value>
-std::string toJson(const std::vector<Value> &values) {
-  std::string text = "[";
-  for (const Value &value : values)
-    text += (text.size() > 1 ? "," : "") + toJson(value);
-  return text + ']';
 }
 
 void print(const std::string &line) {
@@ -284,11 +276,9 @@ constexpr const char *kHelp =
     "Errors are one line on stderr and exit status 2.\n";
 
 int wholeNumber(const QString &text, const QString &option, int most) {
-  bool isNumber = false;
-  const int number = text.toInt(&isNumber);
-  if (!isNumber || number < 1 || number > most)
-    throw Error(option + " takes a whole number from 1 to " + QString::number(most));
-  return number;
+  if (const int value = number(text.toStdString(), most))
+    return value;
+  throw Error(option + " takes a whole number from 1 to " + QString::number(most));
 }
 
 Taste tasteOf(const QString &text) {

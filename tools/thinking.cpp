@@ -3,11 +3,11 @@
 
 #include "ClockDraw.h"
 #include "KnownSea.h"
+#include "json.h"
+#include "number.h"
 #include "players.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -34,13 +34,6 @@ struct Coin : RandomDraw {
 private:
   int side_;
 };
-
-std::string toJson(const std::vector<Cell> &cells) {
-  std::string text = "[";
-  for (const auto &[X, Y] : cells)
-    text += (text.size() > 1 ? ",[" : "[") + std::to_string(X) + ',' + std::to_string(Y) + ']';
-  return text + ']';
-}
 
 template <typename Letter>
 std::string toJson(const Layer &shots, Letter letter) {
@@ -85,14 +78,10 @@ public:
     const auto second = searchList(known(), tail);
     if (best == second)
       return std::nullopt;
-    std::array<CellRows, 5> withFree;
-    for (int n = 0; n <= 4; ++n)
-      withFree[static_cast<std::size_t>(n)] = HasFreeNeighbours(shots(), n);
+    const CellNumbers numbers = freeNeighbours(shots());
     const std::string free = toJson(shots(), [&](int X, int Y) {
-      for (std::size_t n = 0; n <= 4; ++n)
-        if ((withFree[n][static_cast<std::size_t>(Y)] >> X & 1) != 0)
-          return static_cast<char>('0' + n);
-      return '.';
+      const int n = numbers[indexOf(X, Y)];
+      return n < 0 ? '.' : static_cast<char>('0' + n);
     });
     return "{\"sea\":" + sea() + ",\"free\":" + free + ",\"best\":" + toJson(best) +
            ",\"second\":" + toJson(second) + '}';
@@ -142,14 +131,6 @@ std::optional<std::string> positions(int size, int least, RandomDraw &draw) {
       return "{\"search\":" + *search + ",\"finish\":" + *finish + '}';
   }
   return std::nullopt;
-}
-
-/// A whole number from 1 to `most`; 0 for anything else.
-int number(const char *text, int most) {
-  int value = 0;
-  const char *last = text + std::strlen(text);
-  const auto [end, error] = std::from_chars(text, last, value);
-  return error == std::errc() && end == last && value >= 1 && value <= most ? value : 0;
 }
 
 } // namespace

@@ -19,7 +19,7 @@ std::set<Shape> shapesOf(int length) {
   std::set<Shape> shapes;
   for (const Shape &smaller : shapesOf(length - 1))
     for (const auto &[x, y] : smaller)
-      for (const auto &[dx, dy] : {std::pair{0, -1}, {1, 0}, {0, 1}, {-1, 0}}) {
+      for (const auto &[dx, dy] : kSteps) {
         const int right = x + dx < 0, down = y + dy < 0; // back to column and row 0
         Shape shape{{x + dx + right, y + dy + down}};
         for (const auto &[cx, cy] : smaller)
