@@ -62,7 +62,7 @@ def names(content):
 
 def start(scores, file, stdin=subprocess.PIPE, **options):
     """The game, that takes results from its input and prints a line for each that is saved."""
-    process = subprocess.Popen([scores, file, "--batch"], bufsize=0, stdin=stdin,
+    process = subprocess.Popen([scores, file, "--enter"], bufsize=0, stdin=stdin,
                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, **options)
     started.append(process)
     return process
