@@ -18,13 +18,6 @@ namespace {
 constexpr int kEvents = 100'000;
 constexpr int kNever = 24 * 3600 * 1000; // ms: the monkey ticks the timers itself
 
-struct Heard : QuietSound {
-  long calls = 0;
-  void start(const Klang &) override { ++calls; }
-  bool playToEnd(const Klang &) override { return ++calls > 0; }
-  void sleep(int) override { ++calls; }
-};
-
 /// One side as the arrays tell it.
 struct Side {
   int boats[6]{}; ///< not sunk, or in the set-up not complete, lengths 6 down to 1
@@ -262,7 +255,7 @@ struct Monkey : Stage {
   /// What arrives after the end finds nothing.
   void checkEnded() {
     const auto seen = [&] {
-      return std::tuple(heard_.calls, draw.draws, messages.shown.size(), help.log.size());
+      return std::tuple(heard_.log.size(), draw.draws, messages.log.size(), help.log.size());
     };
     const auto before = seen();
     control("picpFeld").setEnabled(true);
@@ -277,7 +270,7 @@ struct Monkey : Stage {
 
   unsigned seed_ = 1;
   std::mt19937 random_;
-  Heard heard_;
+  QuietSound heard_; ///< unlike that of the stage it looks at no window
   QObject here_;
   QWidget *busy_ = nullptr; ///< the dialog that is being answered
   int events_ = 0, starts_ = 0, games_ = 0, turns_ = 0, ends_ = 0, dialogs_ = 0;
