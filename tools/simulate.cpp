@@ -5,12 +5,12 @@
 #include "players.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <cstdio>
 #include <limits>
 #include <stdexcept>
@@ -42,19 +42,19 @@ void forEachLine(const QString &path, Take take) {
   }
 }
 
-/// What is no pair of whole numbers counts as a cell off the field.
+/// Appends pairs; what is no pair of whole numbers counts as a cell off the field.
 void append(Cells &cells, const QJsonArray &pairs) {
   for (const QJsonValue pair : pairs)
     cells.push_back(pair.toArray().size() == 2 ? Cell{pair[0].toInt(), pair[1].toInt()} : Cell{});
 }
 
 /// Presses the cells in turn, to set the human's fleet on an empty field: which are accepted.
-std::vector<bool> press(clsGrid &grid, const Cells &cells) {
+QJsonArray press(clsGrid &grid, const Cells &cells) {
   BoatInWork boat;
-  std::vector<bool> accepted;
+  QJsonArray accepted;
   for (const auto &[X, Y] : cells) {
-    accepted.push_back(grid.PFeld().contains(X, Y) && boat.accepts(grid, X, Y));
-    if (accepted.back() && !boat.add(grid, X, Y))
+    accepted.append(grid.PFeld().contains(X, Y) && boat.accepts(grid, X, Y));
+    if (accepted.last().toBool() && !boat.add(grid, X, Y))
       boat.next(grid);
   }
   return accepted;
@@ -68,9 +68,8 @@ std::vector<Cells> readFleets(const QString &path, clsGrid &grid) {
     for (const QJsonValue boat : json.array())
       append(fleet, boat.toArray());
     grid.ResetFields();
-    const auto accepted = press(grid, fleet);
     if (static_cast<int>(fleet.size()) != clsGrid::FleetCells(grid.Size()) ||
-        std::count(accepted.begin(), accepted.end(), false) != 0)
+        press(grid, fleet).contains(false))
       throw Error(where + ": not a whole fleet by the rules of placement");
   });
   if (fleets.empty())
@@ -80,44 +79,22 @@ std::vector<Cells> readFleets(const QString &path, clsGrid &grid) {
 
 // Output.
 
-std::string toJson(bool value) { return value ? "true" : "false"; }
+void print(const QByteArray &line) { std::puts(line.constData()); }
 
-struct Press {
-  Cell cell;
-  ShotCode code;
-};
-
-std::string toJson(const Cell &cell) {
-  return '[' + std::to_string(cell.X) + ',' + std::to_string(cell.Y) + ']';
-}
-
-std::string toJson(const Press &press) {
-  return '[' + std::to_string(press.cell.X) + ',' + std::to_string(press.cell.Y) + ',' +
-         std::to_string(static_cast<int>(press.code)) + ']';
-}
-
-template <typename Value>
-std::string toJson(const std::vector<Value> &values) {
-  std::string text = "[";
-  for (const Value &value : values)
-    text += (text.size() > 1 ? "," : "") + toJson(value);
-  return text + ']';
-}
-
-void print(const std::string &line) {
-  if (std::fputs((line + '\n').c_str(), stdout) == EOF || std::ferror(stdout))
-    throw Error("stdout: cannot write");
+void print(const QJsonObject &object) {
+  print(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
 // The game.
 
 template <typename Boat>
-std::vector<Cells> cellsOf(const clsGrid &grid, Boat boat) {
-  std::vector<Cells> fleet;
+QJsonArray fleetOf(const clsGrid &grid, Boat boat) {
+  QJsonArray fleet;
   for (int i = 1; i <= grid.BoatCount(); ++i) {
-    Cells &cells = fleet.emplace_back();
+    QJsonArray cells;
     for (int j = 1; j <= boat(i).length(); ++j)
-      cells.push_back(boat(i).cell(j));
+      cells.append(QJsonArray{boat(i).X(j), boat(i).Y(j)});
+    fleet.append(cells);
   }
   return fleet;
 }
@@ -143,37 +120,39 @@ Cell shotCell(const Field &before, const Field &after, ShotCode code) {
   throw Error("the computer did not shoot");
 }
 
-std::string play(clsGrid &grid, RandomDraw &draw) {
-  const auto player = cellsOf(grid, [&](int i) { return grid.PBoote(i); });
-  const auto computer = cellsOf(grid, [&](int i) { return grid.CBoote(i); });
-  std::vector<Press> human;
-  std::vector<Press> reply;
+QJsonObject play(clsGrid &grid, RandomDraw &draw) {
+  const QJsonArray player = fleetOf(grid, [&](int i) { return grid.PBoote(i); });
+  const QJsonArray computer = fleetOf(grid, [&](int i) { return grid.CBoote(i); });
+  const auto shot = [](const Cell &cell, ShotCode code) {
+    return QJsonArray{cell.X, cell.Y, static_cast<int>(code)};
+  };
+  QJsonArray human;
+  QJsonArray reply;
   RandomGunner gunner(grid, draw);
-
   int winner = 0;
   while (winner == 0) {
     const Cell cell = gunner.next();
-    human.push_back({cell, grid.Shoot(cell.X, cell.Y)});
+    const ShotCode result = grid.Shoot(cell.X, cell.Y);
+    human.append(shot(cell, result));
     winner = winnerOf(grid.BoatTable(2));
-    if (winner != 0 || human.back().code == ShotCode::repeated)
+    if (winner != 0 || result == ShotCode::repeated)
       continue;
     const Field before = grid.PFeld();
     const ShotCode code = grid.ComputerShoot();
-    reply.push_back({shotCell(before, grid.PFeld(), code), code});
+    reply.append(shot(shotCell(before, grid.PFeld(), code), code));
     winner = winnerOf(grid.BoatTable(2));
   }
-  return "{\"size\":" + std::to_string(grid.Size()) + ",\"player\":" + toJson(player) +
-         ",\"computer\":" + toJson(computer) + ",\"human\":" + toJson(human) +
-         ",\"reply\":" + toJson(reply) + ",\"winner\":" + std::to_string(winner) + '}';
+  return {{"size", grid.Size()}, {"player", player}, {"computer", computer},
+          {"human", human},      {"reply", reply},   {"winner", winner}};
 }
 
 /// Bombs that sink the human's fleet if the computer alone shoots.
-std::string countBombs(clsGrid &grid) {
+QByteArray countBombs(clsGrid &grid) {
   int bombs = 0;
   do
     ++bombs;
   while (grid.ComputerShoot() != ShotCode::sunk || winnerOf(grid.BoatTable(2)) == 0);
-  return std::to_string(bombs);
+  return QByteArray::number(bombs);
 }
 
 // The command line.
@@ -211,7 +190,10 @@ void simulateGames(const QCommandLineParser &options) {
   for (std::size_t i = 0; i < static_cast<std::size_t>(games); ++i) {
     setFleets(grid, draw, taste < 0 ? &fleets[i % fleets.size()] : nullptr,
               static_cast<Taste>(taste));
-    print(options.isSet("bombs") ? countBombs(grid) : play(grid, draw));
+    if (options.isSet("bombs"))
+      print(countBombs(grid));
+    else
+      print(play(grid, draw));
   }
 }
 
@@ -223,7 +205,7 @@ void simulatePresses(const QString &path) {
     grid.ResetFields();
     Cells cells;
     append(cells, json["presses"].toArray());
-    print("{\"accepted\":" + toJson(press(grid, cells)) + '}');
+    print(QJsonObject{{"accepted", press(grid, cells)}});
   });
 }
 
@@ -250,12 +232,10 @@ void run(const QStringList &arguments) {
 } // namespace
 
 int main(int argc, char **argv) {
-  QStringList arguments;
-  for (int i = 0; i < argc; ++i)
-    arguments << QString::fromLocal8Bit(argv[i]);
+  const QCoreApplication app(argc, argv);
   try {
-    run(arguments);
-    if (std::fflush(stdout) != 0)
+    run(app.arguments());
+    if (std::fflush(stdout) != 0 || std::ferror(stdout))
       throw Error("stdout: cannot write");
   } catch (const Error &error) {
     std::fprintf(stderr, "simulate: %s\n", error.what());
