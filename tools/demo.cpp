@@ -2,13 +2,12 @@
 // with a picture of each phase.
 
 #include "ClockDraw.h"
-#include "startup.h"
 #include "Robot.h"
 #include "players.h"
+#include "startup.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QCommandLineParser>
 #include <QDir>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -19,39 +18,31 @@
 namespace {
 
 constexpr const char *kHelp =
-    "demo [--out DIR] [--size S]\n"
-    "    plays a game of size S, 1 to 3 (2), without a screen, and writes a PNG of each\n"
-    "    phase to DIR (the folder demo of the build tree).\n";
-
-[[noreturn]] void fail(const QString &text) {
-  std::fprintf(stderr, "demo: %s\n", qPrintable(text));
-  std::exit(2);
-}
+    "demo [SIZE [FOLDER]]\n"
+    "    plays a game of that size, 1 to 3 (2), without a screen, and writes a PNG of each\n"
+    "    phase to the folder (demo in the build tree).\n";
 
 /// Writes pictures of the main window.
-class Camera {
-public:
-  Camera(const QWidget &window, const QString &folder)
-      : window_(const_cast<QWidget &>(window)), folder_(folder) {}
+struct Camera {
+  QWidget &window;
+  QString folder;
 
   /// With a dialog where it stands over the window.
   void shoot(const QString &phase, QDialog *dialog = nullptr) {
-    QPixmap picture = window_.grab();
+    QPixmap picture = window.grab();
     if (dialog) {
       QPainter painter(&picture);
-      const QRect place(dialog->pos() - window_.pos(), dialog->size());
+      const QRect place(dialog->pos() - window.pos(), dialog->size());
       painter.fillRect(place.adjusted(-3, -3, 3, 3), QColor(40, 60, 90));
       painter.drawPixmap(place.topLeft(), dialog->grab());
     }
-    const QString path = folder_ + '/' + phase + ".png";
-    if (!picture.save(path))
-      fail(path + ": cannot write");
-    std::printf("%s\n", qPrintable(QDir::cleanPath(path)));
+    const QString path = QDir::cleanPath(folder + '/' + phase + ".png");
+    if (!picture.save(path)) {
+      std::fprintf(stderr, "demo: cannot write %s\n", qPrintable(path));
+      std::exit(2);
+    }
+    std::puts(qPrintable(path));
   }
-
-private:
-  QWidget &window_;
-  QString folder_;
 };
 
 void playBattle(frmHaupt &window, Robot &robot, Camera &camera, RandomDraw &draw) {
@@ -84,14 +75,14 @@ void play(const QString &folder, int size) {
   ClockDraw draw;
   QuietSound sound;
   MemoryStore store;
-  store.values["Help"] = "0"; // no balloons on the pictures
+  store.values["Korvel/Options/Help"] = "0"; // no balloons on the pictures
   ClosedHelp help;
   QtMessageBox messages;
   Globals globals;
   const QTemporaryDir data; // the top ten of this one game
   const auto window = Main(globals, {draw, sound, store, messages, help}, data.path());
   Robot robot(*window);
-  Camera camera(*window, folder);
+  Camera camera{*window, folder};
   camera.shoot("1-start");
 
   Robot::onDialog([&](QDialog &dialog) {
@@ -120,24 +111,15 @@ int main(int argc, char **argv) {
   const QApplication app(argc, argv);
   dressApplication();
 
-  QCommandLineParser parser;
-  parser.addOptions({{"out", "", "DIR", app.applicationDirPath() + "/../demo"},
-                     {"size", "", "S", "2"},
-                     {"help", ""}});
-  if (!parser.parse(app.arguments()))
-    fail(parser.errorText());
-  if (!parser.positionalArguments().isEmpty())
-    fail("unknown argument " + parser.positionalArguments().first());
-  if (parser.isSet("help")) {
+  const QStringList arguments = app.arguments() << QString();
+  const QString size = arguments[1].isEmpty() ? "2" : arguments[1];
+  if (argc > 3 || size.size() != 1 || size < "1" || size > "3") {
     std::fputs(kHelp, stdout);
-    return 0;
+    return size == "--help" ? 0 : 2;
   }
-  const int size = parser.value("size").toInt();
-  if (size < 1 || size > kSizes)
-    fail("--size takes 1, 2 or 3");
-  const QString folder = QDir(parser.value("out")).absolutePath();
-  if (!QDir().mkpath(folder))
-    fail(folder + ": cannot make this folder");
-  play(folder, size);
+  const QString folder =
+      QDir(argc > 2 ? arguments[2] : app.applicationDirPath() + "/../demo").absolutePath();
+  QDir().mkpath(folder);
+  play(folder, size.toInt());
   return 0;
 }

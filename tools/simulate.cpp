@@ -2,11 +2,10 @@
 
 #include "BoatInWork.h"
 #include "ClockDraw.h"
-#include "json.h"
-#include "number.h"
 #include "players.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,7 +14,6 @@
 #include <cstdio>
 #include <limits>
 #include <stdexcept>
-#include <utility>
 
 namespace {
 
@@ -24,117 +22,91 @@ struct Error : std::runtime_error {
   explicit Error(const QString &text) : std::runtime_error(text.toStdString()) {}
 };
 
-using Fleet = std::vector<std::vector<Cell>>;
+using Cells = std::vector<Cell>;
 
 // Input.
 
-struct Line {
-  QString where; ///< "FILE, line N"
-  QJsonDocument json;
-};
-
-std::vector<Line> readLines(const QString &path) {
+/// Hands each line of a file on, as JSON, with where it stands.
+template <typename Take>
+void forEachLine(const QString &path, Take take) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly))
     throw Error(path + ": " + file.errorString());
-  std::vector<Line> lines;
   for (int number = 1; !file.atEnd(); ++number) {
-    const QByteArray text = file.readLine().trimmed();
-    if (text.isEmpty())
-      continue;
     const QString where = QString("%1, line %2").arg(path).arg(number);
     QJsonParseError error{};
-    lines.push_back({where, QJsonDocument::fromJson(text, &error)});
+    const auto json = QJsonDocument::fromJson(file.readLine(), &error);
     if (error.error != QJsonParseError::NoError)
       throw Error(where + ": " + error.errorString());
+    take(json, where);
   }
-  if (lines.empty())
+}
+
+/// Appends pairs; what is no pair of whole numbers counts as a cell off the field.
+void append(Cells &cells, const QJsonArray &pairs) {
+  for (const QJsonValue pair : pairs)
+    cells.push_back(pair.toArray().size() == 2 ? Cell{pair[0].toInt(), pair[1].toInt()} : Cell{});
+}
+
+/// Presses the cells in turn, to set the human's fleet on an empty field: which are accepted.
+QJsonArray press(clsGrid &grid, const Cells &cells) {
+  BoatInWork boat;
+  QJsonArray accepted;
+  for (const auto &[X, Y] : cells) {
+    accepted.append(grid.PFeld().contains(X, Y) && boat.accepts(grid, X, Y));
+    if (accepted.last().toBool() && !boat.add(grid, X, Y))
+      boat.next(grid);
+  }
+  return accepted;
+}
+
+/// Whole fleets that keep to the rules, as the presses that set them.
+std::vector<Cells> readFleets(const QString &path, clsGrid &grid) {
+  std::vector<Cells> fleets;
+  forEachLine(path, [&](const QJsonDocument &json, const QString &where) {
+    Cells &fleet = fleets.emplace_back();
+    for (const QJsonValue boat : json.array())
+      append(fleet, boat.toArray());
+    grid.ResetFields();
+    if (static_cast<int>(fleet.size()) != clsGrid::FleetCells(grid.Size()) ||
+        press(grid, fleet).contains(false))
+      throw Error(where + ": not a whole fleet by the rules of placement");
+  });
+  if (fleets.empty())
     throw Error(path + ": no line in it");
-  return lines;
-}
-
-Cell cellOf(const QJsonValue &value, const QString &where) {
-  const QJsonArray pair = value.toArray();
-  constexpr int none = std::numeric_limits<int>::min();
-  const int X = pair.at(0).toInt(none);
-  const int Y = pair.at(1).toInt(none);
-  if (pair.size() != 2 || X == none || Y == none)
-    throw Error(where + ": not a pair of whole numbers");
-  return {X, Y};
-}
-
-/// A fleet that keeps to the rules; `grid` has the size and is used to try it.
-Fleet fleetOf(const Line &line, clsGrid &grid) {
-  if (!line.json.isArray())
-    throw Error(line.where + ": not an array of boats");
-  grid.ResetFields();
-  const QJsonArray boats = line.json.array();
-  Fleet fleet;
-  for (int i = 1; i <= std::max(static_cast<int>(boats.size()), grid.BoatCount()); ++i) {
-    const QJsonArray points = boats.at(i - 1).toArray();
-    const int length = i <= grid.BoatCount() ? grid.PBoote(i).length() : 0;
-    std::vector<Cell> &boat = fleet.emplace_back();
-    for (int j = 1; j <= std::max({static_cast<int>(points.size()), length, 1}); ++j) {
-      const QString where = line.where + QString(": boat %1, point %2").arg(i).arg(j);
-      if (j > length)
-        throw Error(where + ": is one too many");
-      if (j > points.size())
-        throw Error(where + ": is missing");
-      const Cell cell = cellOf(points.at(j - 1), where);
-      if (!grid.PFeld().contains(cell.X, cell.Y))
-        throw Error(where + ": off the field");
-      if (!grid.CreatePoint(i, cell.X, cell.Y))
-        throw Error(where + ": breaks a rule of placement");
-      grid.SetPoint(i, j, cell.X, cell.Y);
-      boat.push_back(cell);
-    }
-  }
-  return fleet;
+  return fleets;
 }
 
 // Output.
 
-using ::toJson; // beside the one here
+void print(const QByteArray &line) { std::puts(line.constData()); }
 
-struct Press {
-  Cell cell;
-  ShotCode code;
-};
-
-std::string toJson(const Press &press) {
-  return '[' + std::to_string(press.cell.X) + ',' + std::to_string(press.cell.Y) + ',' +
-         std::to_string(static_cast<int>(press.code)) + ']';
-}
-
-void print(const std::string &line) {
-  if (std::fputs((line + '\n').c_str(), stdout) == EOF || std::ferror(stdout))
-    throw Error("stdout: cannot write");
+void print(const QJsonObject &object) {
+  print(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
 // The game.
 
 template <typename Boat>
-Fleet cellsOf(const clsGrid &grid, Boat boat) {
-  Fleet fleet;
+QJsonArray fleetOf(const clsGrid &grid, Boat boat) {
+  QJsonArray fleet;
   for (int i = 1; i <= grid.BoatCount(); ++i) {
-    std::vector<Cell> &cells = fleet.emplace_back();
+    QJsonArray cells;
     for (int j = 1; j <= boat(i).length(); ++j)
-      cells.push_back(boat(i).cell(j));
+      cells.append(QJsonArray{boat(i).X(j), boat(i).Y(j)});
+    fleet.append(cells);
   }
   return fleet;
 }
 
 /// Both fleets on the board; the human's is `given` or, without one, random to its taste.
-void setFleets(clsGrid &grid, RandomDraw &draw, const Fleet *given, Taste taste) {
+void setFleets(clsGrid &grid, RandomDraw &draw, const Cells *given, Taste taste) {
   do {
     if (!grid.CreateComputerField())
       throw Error("the computer's fleet cannot be made");
   } while (!given && !setRandomFleet(grid, draw, taste));
-  for (int i = 1; given && i <= grid.BoatCount(); ++i)
-    for (int j = 1; j <= grid.PBoote(i).length(); ++j) {
-      const Cell &cell = (*given)[static_cast<std::size_t>(i - 1)][static_cast<std::size_t>(j - 1)];
-      grid.SetPoint(i, j, cell.X, cell.Y);
-    }
+  if (given)
+    press(grid, *given);
 }
 
 /// The cell that the computer has just shot at: of boat or water, as the code says, and unknown
@@ -148,188 +120,122 @@ Cell shotCell(const Field &before, const Field &after, ShotCode code) {
   throw Error("the computer did not shoot");
 }
 
-std::string play(clsGrid &grid, RandomDraw &draw, const Fleet *given, Taste taste) {
-  setFleets(grid, draw, given, taste);
-  const Fleet player = cellsOf(grid, [&](int i) { return grid.PBoote(i); });
-  const Fleet computer = cellsOf(grid, [&](int i) { return grid.CBoote(i); });
-  std::vector<Press> human;
-  std::vector<Press> reply;
+QJsonObject play(clsGrid &grid, RandomDraw &draw) {
+  const QJsonArray player = fleetOf(grid, [&](int i) { return grid.PBoote(i); });
+  const QJsonArray computer = fleetOf(grid, [&](int i) { return grid.CBoote(i); });
+  const auto shot = [](const Cell &cell, ShotCode code) {
+    return QJsonArray{cell.X, cell.Y, static_cast<int>(code)};
+  };
+  QJsonArray human;
+  QJsonArray reply;
   RandomGunner gunner(grid, draw);
-
   int winner = 0;
   while (winner == 0) {
     const Cell cell = gunner.next();
-    human.push_back({cell, grid.Shoot(cell.X, cell.Y)});
+    const ShotCode result = grid.Shoot(cell.X, cell.Y);
+    human.append(shot(cell, result));
     winner = winnerOf(grid.BoatTable(2));
-    if (winner != 0 || human.back().code == ShotCode::repeated)
+    if (winner != 0 || result == ShotCode::repeated)
       continue;
     const Field before = grid.PFeld();
     const ShotCode code = grid.ComputerShoot();
-    reply.push_back({shotCell(before, grid.PFeld(), code), code});
+    reply.append(shot(shotCell(before, grid.PFeld(), code), code));
     winner = winnerOf(grid.BoatTable(2));
   }
-  return "{\"size\":" + std::to_string(grid.Size()) + ",\"player\":" + toJson(player) +
-         ",\"computer\":" + toJson(computer) + ",\"human\":" + toJson(human) +
-         ",\"reply\":" + toJson(reply) + ",\"winner\":" + std::to_string(winner) + '}';
+  return {{"size", grid.Size()}, {"player", player}, {"computer", computer},
+          {"human", human},      {"reply", reply},   {"winner", winner}};
 }
 
-/// The computer's bombs until the human's fleet is sunk; nobody shoots back.
-int bombsOfComputer(clsGrid &grid) {
+/// Bombs that sink the human's fleet if the computer alone shoots.
+QByteArray countBombs(clsGrid &grid) {
   int bombs = 0;
   do
     ++bombs;
   while (grid.ComputerShoot() != ShotCode::sunk || winnerOf(grid.BoatTable(2)) == 0);
-  return bombs;
-}
-
-/// Bombs of a player who takes any cell not shot at, each with the same chance.
-int bombsOfChance(const clsGrid &grid, RandomDraw &draw) {
-  std::vector<Cell> cells;
-  for (int Y = 1; Y <= grid.rows(); ++Y)
-    for (int X = 1; X <= grid.columns(); ++X)
-      cells.push_back({X, Y});
-  int bombs = 0;
-  for (int left = clsGrid::FleetCells(grid.Size()); left > 0; ++bombs) {
-    std::swap(cells[static_cast<std::size_t>(draw.draw(static_cast<int>(cells.size())) - 1)],
-              cells.back());
-    left -= grid.PFeld()(cells.back().X, cells.back().Y, 1) != 0;
-    cells.pop_back();
-  }
-  return bombs;
-}
-
-std::string countBombs(clsGrid &grid, RandomDraw &draw, const Fleet *given, Taste taste) {
-  setFleets(grid, draw, given, taste);
-  const int chance = bombsOfChance(grid, draw);
-  return "{\"size\":" + std::to_string(grid.Size()) +
-         ",\"computer\":" + std::to_string(bombsOfComputer(grid)) +
-         ",\"chance\":" + std::to_string(chance) + '}';
-}
-
-// The two commands.
-
-/// One game, or the bombs of one fleet, as a line.
-using Game = std::string (*)(clsGrid &, RandomDraw &, const Fleet *given, Taste);
-
-void simulateGames(Game game, int size, int games, const QString &fleetFile, Taste taste) {
-  ClockDraw draw;
-  clsGrid grid(draw);
-  grid.setSize(size);
-  std::vector<Fleet> fleets;
-  if (!fleetFile.isEmpty())
-    for (const Line &line : readLines(fleetFile))
-      fleets.push_back(fleetOf(line, grid));
-  for (int i = 0; i < games; ++i)
-    print(game(grid, draw,
-               fleets.empty() ? nullptr : &fleets[static_cast<std::size_t>(i) % fleets.size()],
-               taste));
-}
-
-std::string acceptedPresses(const Line &line) {
-  const QJsonObject object = line.json.object();
-  const int size = object["size"].toInt();
-  if (size < 1 || size > kSizes || !object["presses"].isArray())
-    throw Error(line.where + ": not an object with a size of 1 to 3 and presses");
-  ClockDraw draw;
-  clsGrid grid(draw);
-  grid.setSize(size);
-  grid.ResetFields();
-  BoatInWork boat;
-
-  std::string accepted;
-  int number = 0;
-  for (const QJsonValue press : object["presses"].toArray()) {
-    const Cell cell = cellOf(press, line.where + QString(": press %1").arg(++number));
-    const bool ok = grid.PFeld().contains(cell.X, cell.Y) && boat.accepts(grid, cell.X, cell.Y);
-    if (ok && !boat.add(grid, cell.X, cell.Y))
-      boat.next(grid);
-    accepted += (accepted.empty() ? "" : ",") + std::string(ok ? "true" : "false");
-  }
-  return "{\"accepted\":[" + accepted + "]}";
-}
-
-void simulatePresses(const QString &path) {
-  std::vector<std::string> results;
-  for (const Line &line : readLines(path))
-    results.push_back(acceptedPresses(line));
-  for (const std::string &result : results)
-    print(result);
+  return QByteArray::number(bombs);
 }
 
 // The command line.
 
 constexpr const char *kHelp =
-    "simulate --size S [--games N] [--fleets FILE | --fleet TASTE] [--bombs]\n"
+    "simulate --size S [--games N] [--fleets TASTE-OR-FILE] [--bombs]\n"
     "    plays N games (1) of size S, 1 to 3, and prints a JSON line for each:\n"
     "    size, player, computer (the fleets, boat by boat, [x,y] point by point),\n"
     "    human, reply (the shots, [x,y,code]; 0 water, 1 repeated, 2 hit, 3 sunk),\n"
     "    winner (1 the human, 2 the computer). The human presses cells at random.\n"
-    "    FILE holds a fleet a line for the human, used in turn; else it is random,\n"
-    "    and TASTE is random for any shape, straight for boats in a line, or rim for\n"
-    "    boats along the rim of the field.\n"
-    "    With --bombs nobody shoots back, and a line holds size, computer, chance: the\n"
-    "    bombs that the computer needs to sink the human's fleet, and those of a player\n"
-    "    who takes any cell that he has not shot at, one as readily as another.\n"
+    "    His fleets are random of any shape, straight for boats in a line, rim for\n"
+    "    boats along the rim of the field, or those of FILE in turn, one a line.\n"
+    "    With --bombs nobody shoots back, and a line is the number of bombs that the\n"
+    "    computer needs to sink the human's fleet.\n"
     "simulate --presses FILE\n"
     "    each line of FILE is {\"size\":S,\"presses\":[[x,y],...]}; prints for each\n"
     "    which of these presses, setting a fleet on an empty field, are accepted.\n"
     "Errors are one line on stderr and exit status 2.\n";
 
-int wholeNumber(const QString &text, const QString &option, int most) {
-  if (const int value = number(text.toStdString(), most))
-    return value;
-  throw Error(option + " takes a whole number from 1 to " + QString::number(most));
+int wholeNumber(const QString &text, const QString &what, int most) {
+  bool isNumber = false;
+  const int number = text.toInt(&isNumber);
+  if (!isNumber || number < 1 || number > most)
+    throw Error(what + " takes a whole number from 1 to " + QString::number(most));
+  return number;
 }
 
-Taste tasteOf(const QString &text) {
-  const qsizetype i = QStringList{"random", "straight", "rim"}.indexOf(text);
-  if (i < 0)
-    throw Error("--fleet takes random, straight or rim");
-  return static_cast<Taste>(i);
+void simulateGames(const QCommandLineParser &options) {
+  ClockDraw draw;
+  clsGrid grid(draw);
+  grid.setSize(wholeNumber(options.value("size"), "--size", kSizes));
+  const int games = wholeNumber(options.value("games"), "--games", std::numeric_limits<int>::max());
+  const auto taste = QStringList{"random", "straight", "rim"}.indexOf(options.value("fleets"));
+  const auto fleets = taste < 0 ? readFleets(options.value("fleets"), grid) : std::vector<Cells>();
+  for (std::size_t i = 0; i < static_cast<std::size_t>(games); ++i) {
+    setFleets(grid, draw, taste < 0 ? &fleets[i % fleets.size()] : nullptr,
+              static_cast<Taste>(taste));
+    if (options.isSet("bombs"))
+      print(countBombs(grid));
+    else
+      print(play(grid, draw));
+  }
+}
+
+void simulatePresses(const QString &path) {
+  forEachLine(path, [](const QJsonDocument &json, const QString &where) {
+    ClockDraw draw;
+    clsGrid grid(draw);
+    grid.setSize(wholeNumber(json["size"].toVariant().toString(), where + ": size", kSizes));
+    grid.ResetFields();
+    Cells cells;
+    append(cells, json["presses"].toArray());
+    print(QJsonObject{{"accepted", press(grid, cells)}});
+  });
 }
 
 void run(const QStringList &arguments) {
-  QCommandLineParser parser;
-  parser.addOptions({{"size", "", "S"},
-                     {"games", "", "N", "1"},
-                     {"fleets", "", "FILE"},
-                     {"fleet", "", "TASTE", "random"},
-                     {"bombs", ""},
-                     {"presses", "", "FILE"},
-                     {"help", ""}});
-  if (!parser.parse(arguments))
-    throw Error(parser.errorText());
-  if (!parser.positionalArguments().isEmpty())
-    throw Error("unknown argument " + parser.positionalArguments().first());
-  if (parser.isSet("help")) {
+  QCommandLineParser options;
+  options.addOptions({{"size", "", "S"},
+                      {"games", "", "N", "1"},
+                      {"fleets", "", "TASTE-OR-FILE", "random"},
+                      {"bombs", ""},
+                      {"presses", "", "FILE"},
+                      {"help", ""}});
+  if (!options.parse(arguments))
+    throw Error(options.errorText());
+  if (!options.positionalArguments().isEmpty())
+    throw Error("unknown argument " + options.positionalArguments().first());
+  if (options.isSet("help"))
     std::fputs(kHelp, stdout);
-    return;
-  }
-  if (parser.isSet("presses")) {
-    if (parser.optionNames().size() > 1)
-      throw Error("--presses goes alone");
-    simulatePresses(parser.value("presses"));
-    return;
-  }
-  if (!parser.isSet("size"))
-    throw Error("--size or --presses is missing, see --help");
-  if (parser.isSet("fleets") && parser.isSet("fleet"))
-    throw Error("--fleets and --fleet exclude each other");
-  simulateGames(parser.isSet("bombs") ? countBombs : play,
-                wholeNumber(parser.value("size"), "--size", kSizes),
-                wholeNumber(parser.value("games"), "--games", std::numeric_limits<int>::max()),
-                parser.value("fleets"), tasteOf(parser.value("fleet")));
+  else if (options.isSet("presses"))
+    simulatePresses(options.value("presses"));
+  else
+    simulateGames(options);
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-  QStringList arguments;
-  for (int i = 0; i < argc; ++i)
-    arguments << QString::fromLocal8Bit(argv[i]);
+  const QCoreApplication app(argc, argv);
   try {
-    run(arguments);
-    if (std::fflush(stdout) != 0)
+    run(app.arguments());
+    if (std::fflush(stdout) != 0 || std::ferror(stdout))
       throw Error("stdout: cannot write");
   } catch (const Error &error) {
     std::fprintf(stderr, "simulate: %s\n", error.what());

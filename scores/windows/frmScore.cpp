@@ -45,9 +45,7 @@ frmScore::frmScore(QWidget *main, const ScoreServices &services)
   ShowTable(services_.Grid.Size());
 }
 
-frmScore::~frmScore() {
-  services_.player.stop();
-}
+frmScore::~frmScore() { services_.player.stop(); }
 
 void frmScore::buildHeadings() {
   QFont font = sansFont(9.75, QFont::Bold);

@@ -55,14 +55,14 @@ def expect(truth, *what):
 
 
 def names(content):
-    """The first names of a file, for a report."""
+    """The first names of a file, to be told in a report."""
     texts = [content[n + 2:n + 2 + content[n]] for n in range(0, len(content) - 29, 60)]
     return f"{len(content)} bytes: " + b" ".join(texts).decode("cp1252", "replace")
 
 
 def start(scores, file, stdin=subprocess.PIPE, **options):
-    """The game. It reads results from its input and prints a line for each that is saved."""
-    process = subprocess.Popen([scores, file, "--batch"], bufsize=0, stdin=stdin,
+    """The game, that takes results from its input and prints a line for each that is saved."""
+    process = subprocess.Popen([scores, file, "--enter"], bufsize=0, stdin=stdin,
                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, **options)
     started.append(process)
     return process

@@ -5,7 +5,7 @@ namespace {
 
 struct frmOptionsTest : testing::Test {
   MainWindow main;
-  RecordingStore store;
+  MemoryStore store;
   Settings settings;
   std::unique_ptr<frmOptions> dialog;
 

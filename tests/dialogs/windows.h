@@ -1,34 +1,16 @@
 #pragma once
 
 #include "Robot.h"
-#include "SettingsStore.h"
 #include "printQt.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
-
-#include <optional>
 
 /// A window to put dialogs over.
 struct MainWindow : QWidget {
   MainWindow() {
     resize(701, 405);
     show();
-  }
-};
-
-/// Holds one text under each key of the program's section, and writes down what is written.
-struct RecordingStore : SettingsStore {
-  std::optional<QString> text;
-  QString log;
-
-  QString read(const QString &application, const QString &section, const QString &,
-               const QString &fallback) const override {
-    return application == "Korvel" && section == "Options" ? text.value_or(fallback) : fallback;
-  }
-  void write(const QString &application, const QString &section, const QString &key,
-             const QString &value) override {
-    log += application + '/' + section + '/' + key + '=' + value + ' ';
   }
 };
 

@@ -151,6 +151,8 @@ shoot_singly() {
     see
   done
   press_cells "${cells[0]}" "${cells[1]}" "${cells[i]}"
+  press main 66 147 315 31 # a repeated cell, and the question of Ausgang after its sound
+  answer $nein
   await "two repeated cells and shot $((i + 1))" shots=$((i + 1)) replies=$((i + 1))
 }
 

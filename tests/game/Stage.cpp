@@ -4,16 +4,6 @@
 
 #include <utility>
 
-void RecordingSound::note(const char *what, const Klang &klang) {
-  std::string name = klang.isEmpty() ? "silence" : "?";
-  for (const char *known : {"Muell", "Boot", "Alle", "Start", "Wasser", "Doppelt", "Treffer",
-                            "Versenkt", "Sieg", "Verloren", "Top10"})
-    if (loadSound(QString(known).toLower()) == klang)
-      name = known;
-  const std::string seen = changes ? changes() : "";
-  log.push_back((seen.empty() ? "" : seen + ' ') + what + ' ' + name);
-}
-
 Stage::Stage() { open(); }
 
 void Stage::open() {
@@ -21,7 +11,9 @@ void Stage::open() {
   window = Main(globals, services, folder.path());
   robot.emplace(*window);
   control("picpFeld").installEventFilter(&left_);
-  sound.changes = [this] { return changes(); };
+  sound.wording = [this](const std::string &call, const Klang &klang) {
+    return heard(call, klang);
+  };
   sound.log.clear();
 }
 
@@ -31,6 +23,18 @@ std::vector<QString> Stage::counters() {
     for (int i = 0; i < 6; ++i)
       texts.push_back(Robot::control<QLabel>(*window, QString(group).arg(i)).text());
   return texts;
+}
+
+/// A sound with what was seen to change on the window since the one before: `L` the left field
+/// painted anew, `R` the right field drawn on, `C` a counter.
+std::string Stage::heard(const std::string &call, const Klang &klang) {
+  std::string name = klang.isEmpty() ? "silence" : "?";
+  for (const char *known : {"Muell", "Boot", "Alle", "Start", "Wasser", "Doppelt", "Treffer",
+                            "Versenkt", "Sieg", "Verloren", "Top10"})
+    if (loadSound(QString(known).toLower()) == klang)
+      name = known;
+  const std::string seen = changes();
+  return (seen.empty() ? "" : seen + ' ') + call + ' ' + name;
 }
 
 std::string Stage::changes() {

@@ -10,46 +10,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <functional>
-
-using Log = std::vector<std::string>;
-
-/// Writes down each sound with what was seen to change on the window since the one before:
-/// `L` the left field painted anew, `R` the right field drawn on, `C` a counter.
-class RecordingSound : public SoundDevice {
-public:
-  Log log;
-  std::function<std::string()> changes; ///< the letters
-
-  void start(const Klang &klang) override { note("start", klang); }
-  bool playToEnd(const Klang &klang) override {
-    note("wait", klang);
-    return true;
-  }
-  void sleep(int ms) override { log.push_back("sleep " + std::to_string(ms)); }
-
-private:
-  void note(const char *what, const Klang &klang);
-};
-
-struct RecordingMessages : MessageBox {
-  std::vector<QString> shown;
-  void critical(const QString &title, const QString &text) override {
-    shown.push_back(title + '|' + text);
-  }
-  void warning(const QString &title, const QString &text) override { critical(title, text); }
-};
-
-struct RecordingHelp : HelpViewer {
-  Log log; ///< "1 FILE", "2 FILE" for contents and index, "close"
-  QString failure;
-  QString show(const QString &file, Entry entry) override {
-    log.push_back(std::to_string(static_cast<int>(entry)) + ' ' + file.toStdString());
-    return failure;
-  }
-  void close() override { log.push_back("close"); }
-};
-
 /// The real main window with everything outside it replaced.
 class Stage : public testing::Test {
 protected:
@@ -70,12 +30,12 @@ protected:
   Cell fresh(int BootID) const;
 
   ScriptedDraw draw;
-  RecordingSound sound;
+  QuietSound sound; ///< its log is worded by `heard`
   MemoryStore store;
   QTemporaryDir folder; ///< of the data files
-  RecordingMessages messages;
+  ClosedMessages messages;
   Globals globals;
-  RecordingHelp help;
+  ClosedHelp help;
   Services services{draw, sound, store, messages, help};
   SoundPlayer player{sound, globals.settings.Sound};
   std::unique_ptr<frmHaupt> window;
@@ -84,6 +44,7 @@ protected:
   void open();
 
 private:
+  std::string heard(const std::string &call, const Klang &klang);
   std::string changes();
 
   QImage right_;

@@ -127,7 +127,7 @@ TEST_F(Battle, SoundOffKeepsThePaceFromTheNextSoundOn) {
     Robot::click(Robot::control(options, "cmdÜbernehmen"));
   });
   robot->command("keyOptionen");
-  EXPECT_EQ(store.values.value("StdSize"), "3");
+  EXPECT_EQ(store.values.value("Korvel/Options/StdSize"), "3");
   EXPECT_EQ(window->grid()->toText(), board) << "the new size waits for the next start";
   robot->press(fresh(0));
   EXPECT_EQ(sound.log, Log{"sleep 348"});

@@ -105,13 +105,13 @@ TEST_F(End, FailedSaveOrClearingEndsTheProgramWithItsMessage) {
        }},
   };
   for (const auto &[message, act] : cases) {
-    messages.shown.clear();
+    messages.log.clear();
     open();
     startBattle(1);
     QFile::remove(globals.ScorePath);
     QDir().mkdir(globals.ScorePath);
     act();
-    EXPECT_EQ(messages.shown, std::vector<QString>{QString("Korvel|") + message});
+    EXPECT_EQ(messages.log, std::vector<QString>{QString("Korvel|") + message});
     EXPECT_FALSE(window->isVisible());
     QDir().rmdir(globals.ScorePath);
   }
@@ -122,7 +122,7 @@ TEST_F(End, DamagedFileIsToldAtTheStart) {
   ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("abc"));
   file.close();
   open();
-  EXPECT_EQ(messages.shown, std::vector<QString>{QString("Achtung!|") + Score::kDamaged});
+  EXPECT_EQ(messages.log, std::vector<QString>{QString("Achtung!|") + Score::kDamaged});
   EXPECT_TRUE(window->isVisible());
 }
 

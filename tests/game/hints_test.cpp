@@ -60,7 +60,7 @@ TEST_F(Hints, OpeningDoesNotShiftTheTicks) {
 
 TEST_F(Hints, AppearOnlyWhileTheirSwitchIsOne) {
   for (const char *Help : {"0", "2"}) {
-    store.values["Help"] = Help;
+    store.values["Korvel/Options/Help"] = Help;
     open();
     newGame(1);
     EXPECT_EQ(hint(), "");
@@ -162,10 +162,10 @@ TEST_F(Hints, HelpOpensOnContentsOrIndex) {
   control("keyTop10").setFocus();
   QTest::keyClick(&control("keyTop10"), Qt::Key_F1);
   EXPECT_EQ(help.log, (Log{"1 " + book, "2 " + book, "2 " + book}));
-  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_TRUE(messages.log.empty());
   help.failure = "kein Buch";
   robot->command("keyHilfe");
-  EXPECT_EQ(messages.shown, std::vector<QString>{"Korvel|kein Buch"});
+  EXPECT_EQ(messages.log, std::vector<QString>{"Korvel|kein Buch"});
   Robot::onDialog([&](QDialog &dialog) {
     QTest::keyClick(&dialog, Qt::Key_F1);
     dialog.close();

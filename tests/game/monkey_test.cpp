@@ -1,6 +1,6 @@
 // A monkey at the real windows: a hundred thousand random events, and after each of them what has
-// to hold in every position. Time, chance and sound are in its hand, so its seed fixes a run.
-// It prints the seed: KORVEL_SEED=17 repeats run 17.
+// to hold in every position. Time, chance and sound are in its hand, so a run is told by its seed,
+// which it prints: KORVEL_SEED=17 repeats run 17.
 
 #include "Stage.h"
 #include "players.h"
@@ -18,14 +18,7 @@ namespace {
 constexpr int kEvents = 100'000;
 constexpr int kNever = 24 * 3600 * 1000; // ms: the monkey ticks the timers itself
 
-struct Heard : QuietSound {
-  long calls = 0;
-  void start(const Klang &) override { ++calls; }
-  bool playToEnd(const Klang &) override { return ++calls > 0; }
-  void sleep(int) override { ++calls; }
-};
-
-/// One side as the arrays show it.
+/// One side as the arrays tell it.
 struct Side {
   int boats[6]{}; ///< not sunk, or in the set-up not complete, lengths 6 down to 1
   int hits = 0, misses = 0, sunk = 0, afloat = 0;
@@ -78,7 +71,7 @@ struct Monkey : Stage {
     mode_ = frmHaupt::Idle;
   }
 
-  /// Comes back wherever events run: in a dialog, and during the game's handlers.
+  /// Comes back wherever events run: in a dialog, and in the midst of the game's handlers.
   void wake() {
     QTimer::singleShot(0, &here_, [this] {
       wake();
@@ -253,7 +246,7 @@ struct Monkey : Stage {
     const int misses = human.misses - std::exchange(misses_, human.misses);
     replies_ += human.hits - std::exchange(hits_, human.hits);
     replies_ += std::exchange(sunk_, human.sunk) == human.sunk ? misses : 0;
-    EXPECT_EQ(replies_, shots - (computer.afloat == 0)) << "a reply to each but the winning one";
+    EXPECT_EQ(replies_, shots - (computer.afloat == 0)) << "a reply to each, but the winning one";
     EXPECT_EQ(window->BombenZahl(0), shots);
     EXPECT_EQ(window->BombenZahl(1), replies_);
     EXPECT_TRUE(!outermost || mode == frmHaupt::Over || (human.afloat > 0 && computer.afloat > 0));
@@ -262,7 +255,7 @@ struct Monkey : Stage {
   /// What arrives after the end finds nothing.
   void checkEnded() {
     const auto seen = [&] {
-      return std::tuple(heard_.calls, draw.draws, messages.shown.size(), help.log.size());
+      return std::tuple(heard_.log.size(), draw.draws, messages.log.size(), help.log.size());
     };
     const auto before = seen();
     control("picpFeld").setEnabled(true);
@@ -271,13 +264,13 @@ struct Monkey : Stage {
     QTest::keyClick(window.get(), Qt::Key_F1);
     tick(timTTip());
     QCoreApplication::processEvents();
-    EXPECT_EQ(seen(), before) << "something happens after the end";
+    EXPECT_EQ(seen(), before) << "something happens behind the end";
     check(window.get());
   }
 
   unsigned seed_ = 1;
   std::mt19937 random_;
-  Heard heard_;
+  QuietSound heard_; ///< unlike that of the stage it looks at no window
   QObject here_;
   QWidget *busy_ = nullptr; ///< the dialog that is being answered
   int events_ = 0, starts_ = 0, games_ = 0, turns_ = 0, ends_ = 0, dialogs_ = 0;

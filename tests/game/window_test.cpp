@@ -20,7 +20,7 @@ TEST_F(Window, StartsIdle) {
   EXPECT_EQ(sound.log, Log{});
   for (const QWidget *other : QApplication::topLevelWidgets())
     EXPECT_EQ(other->isVisible(), other == window.get()) << "the splash has gone";
-  store.values["StdSize"] = "3";
+  store.values["Korvel/Options/StdSize"] = "3";
   open();
   EXPECT_EQ(control("picpFeld").size(), QSize(323, 259)) << "the stored size counts at once";
 }
@@ -92,8 +92,8 @@ TEST_F(Window, FleetThatCannotBeMadeEndsTheProgram) {
   window = Main(globals, {stuck, sound, store, messages, help}, folder.path());
   robot.emplace(*window);
   newGame(1);
-  EXPECT_EQ(messages.shown, std::vector<QString>{"Fehler!|Systemfehler\r\n\r\n"
-                                                 "Computer kann Spielfeld nicht erstellen!"});
+  EXPECT_EQ(messages.log, std::vector<QString>{"Fehler!|Systemfehler\r\n\r\n"
+                                               "Computer kann Spielfeld nicht erstellen!"});
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(window->grid(), nullptr);
 }

@@ -2,9 +2,9 @@
 // field. Without a screen; QT_QPA_PLATFORM=xcb measures in a real window.
 
 #include "ClockDraw.h"
-#include "startup.h"
 #include "Robot.h"
 #include "players.h"
+#include "startup.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>

@@ -21,6 +21,10 @@ bool pleases(Taste taste, const clsGrid &grid, int BootID, const Cell &cell) {
   return inColumn || inRow;
 }
 
+Cell anyOf(const std::vector<Cell> &cells, RandomDraw &draw) {
+  return cells[static_cast<std::size_t>(draw.draw(static_cast<int>(cells.size())) - 1)];
+}
+
 } // namespace
 
 std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &draw, Taste taste) {
@@ -31,7 +35,7 @@ std::optional<Cell> randomPoint(const clsGrid &grid, int BootID, RandomDraw &dra
         cells.push_back({X, Y});
   if (cells.empty())
     return std::nullopt;
-  return cells[static_cast<std::size_t>(draw.draw(static_cast<int>(cells.size())) - 1)];
+  return anyOf(cells, draw);
 }
 
 bool setRandomFleet(clsGrid &grid, RandomDraw &draw, Taste taste) {
@@ -58,14 +62,10 @@ RandomGunner::RandomGunner(const clsGrid &grid, RandomDraw &draw)
 Cell RandomGunner::next() {
   const auto shotAt = cells([](int, int shot) { return shot != Shot::none; });
   if (!shotAt.empty() && draw_.draw(16) == 1)
-    return draw(shotAt);
+    return anyOf(shotAt, draw_);
   if (lucky_ && draw_.draw(2) == 1)
-    return draw(cells([](int boat, int shot) { return boat != 0 && shot == Shot::none; }));
-  return draw(cells([](int, int shot) { return shot == Shot::none; }));
-}
-
-Cell RandomGunner::draw(const std::vector<Cell> &cells) {
-  return cells[static_cast<std::size_t>(draw_.draw(static_cast<int>(cells.size())) - 1)];
+    return anyOf(cells([](int boat, int shot) { return boat != 0 && shot == Shot::none; }), draw_);
+  return anyOf(cells([](int, int shot) { return shot == Shot::none; }), draw_);
 }
 
 std::vector<Cell> RandomGunner::cells(bool (*wanted)(int boat, int shot)) const {

@@ -32,7 +32,6 @@ public:
   Cell next();
 
 private:
-  Cell draw(const std::vector<Cell> &cells);
   std::vector<Cell> cells(bool (*wanted)(int boat, int shot)) const;
 
   const clsGrid &grid_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frmHaupt.h"
+#include "standIns.h"
 
 #include <QDialog>
 
@@ -45,33 +46,4 @@ public:
 
 private:
   frmHaupt &window_;
-};
-
-/// A device that is heard by nobody and costs no time.
-class QuietSound : public SoundDevice {
-public:
-  void start(const Klang &) override {}
-  bool playToEnd(const Klang &) override { return true; }
-  void sleep(int) override {}
-};
-
-/// A book that opens for nobody.
-class ClosedHelp : public HelpViewer {
-public:
-  QString show(const QString &, Entry) override { return {}; }
-  void close() override {}
-};
-
-/// A store that holds what it is given, at first nothing.
-class MemoryStore : public SettingsStore {
-public:
-  QMap<QString, QString> values; ///< by key
-
-  QString read(const QString &, const QString &, const QString &key,
-               const QString &fallback) const override {
-    return values.value(key, fallback);
-  }
-  void write(const QString &, const QString &, const QString &key, const QString &text) override {
-    values[key] = text;
-  }
 };
