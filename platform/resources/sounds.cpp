@@ -1,0 +1,9 @@
+#include "sounds.h"
+
+#include <QResource>
+
+QByteArray loadSound(const QString &name) {
+  const QResource resource(":/sounds/" + name + ".wav");
+  Q_ASSERT(resource.isValid());
+  return QByteArray::fromRawData(reinterpret_cast<const char *>(resource.data()), resource.size());
+}

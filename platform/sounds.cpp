@@ -1,9 +1,0 @@
-#include "sounds.h"
-
-#include <QResource>
-
-Klang loadSound(const QString &name) {
-  const QResource resource(":/sounds/" + name + ".wav");
-  Q_ASSERT(resource.isValid());
-  return Klang::fromRawData(reinterpret_cast<const char *>(resource.data()), resource.size());
-}
