@@ -1,4 +1,4 @@
-// What the counters beside the fields say, and what the fields show between two phases.
+// What the counters below the fields say, and what the fields show between two phases.
 
 #include "clsGrid.h"
 

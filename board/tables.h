@@ -4,13 +4,23 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The three board sizes and their fleets, as data. `Size` is 1, 2 or 3 throughout.
+/// The three board sizes and their fleets, as data. `Size` is 1, 2 or 3 throughout. The last size
+/// has the most columns and rows. CONTRIBUTING.md says what else knows that there are three.
 
 inline constexpr int kSizes = 3;
 inline constexpr int kClasses = 6; ///< class j holds the boats of length 7 - j
 
 /// (size, 1) columns and (size, 2) rows, addressed from 0 here.
 inline constexpr std::array<std::array<int, 2>, kSizes> FeldSize{{{10, 8}, {15, 12}, {20, 16}}};
+
+static_assert(
+    [] {
+      for (const auto &[columns, rows] : FeldSize)
+        if (columns % 5 != 0 || rows % 4 != 0)
+          return false;
+      return true;
+    }(),
+    "the search divides the sea into blocks of 5 by 4 cells");
 
 /// Edge of a cell in pixels, without its grid line.
 inline constexpr std::array<int, kSizes> kCellSize{24, 18, 15};

@@ -15,7 +15,7 @@ QPixmap loadPicture(const QString &name);
 /// A pointer that looks like the picture and points with its centre.
 QCursor loadPointer(const QString &name);
 
-/// The head of a picture that is stored decoded, before its pixels (see tools/decode_pictures).
+/// The head of a picture that is stored decoded, before its pixels (see decode_pictures.cpp).
 /// The pixels have 32 bits each.
 struct DecodedHead {
   qint32 width = 0, height = 0;
