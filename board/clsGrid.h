@@ -87,6 +87,9 @@ public:
   const tBoot &CBoote(int i) const { return CBoote_[boat(i)]; }
   const tBoot &PBoote(int i) const { return PBoote_[boat(i)]; }
 
+  /// What a surface shows in a cell, as it was drawn last; nothing for a point of the boat in work.
+  std::optional<Picture> Shown(const Surface &surface, int X, int Y) const;
+
   /// Raised when both surfaces have a new outer size, before anything is drawn on them.
   std::function<void()> ChangePicSize;
 
@@ -108,9 +111,6 @@ public:
   void DeleteBoat(int BootID);
   /// The left surface loses the fleet, the right one shows it.
   void MoveFleet();
-
-  /// What a surface shows in a cell, as it was drawn last; nothing for a point of the boat in work.
-  std::optional<Picture> Shown(const Surface &surface, int X, int Y) const;
 
   // The battle.
 

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QCursor>
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>

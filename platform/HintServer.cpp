@@ -54,7 +54,10 @@ public:
     update();
   }
 
-  void pointTo(const QPoint &pointer) {
+  /// Points to a pixel of the window, or to where the area is nearest to it.
+  void pointTo(const QPoint &pixel) {
+    const QPoint pointer(std::clamp(pixel.x(), area_.left(), area_.right() + 1),
+                         std::clamp(pixel.y(), area_.top(), area_.bottom() + 1));
     const QWidget &window = *parentWidget();
     const QRect visible = screen()->availableGeometry().translated(-window.mapToGlobal(QPoint()));
     const QRect area = area_ & visible;
@@ -144,7 +147,6 @@ void HintServer::SetTitle(const QString &title, int icon) {
 }
 
 void HintServer::AddTool(QWidget &window, const QRect &area, int ID) {
-  area_ = area;
   ID_ = ID;
   text_.clear();
   tracks_ = false;
@@ -171,11 +173,9 @@ void HintServer::setActive(bool active) {
 void HintServer::Track(bool on, int ID) {
   if (ID != ID_ || !balloon_)
     return;
-  const QPoint pointer = balloon_->parentWidget()->mapFromGlobal(QCursor::pos());
   tracks_ = on;
   update();
-  MoveTo({std::clamp(pointer.x(), area_.left(), area_.right() + 1),
-          std::clamp(pointer.y(), area_.top(), area_.bottom() + 1)});
+  MoveTo(balloon_->parentWidget()->mapFromGlobal(QCursor::pos()));
 }
 
 void HintServer::MoveTo(const QPoint &tip) {

@@ -37,9 +37,9 @@ public:
 
   /// The balloon is seen while the server is active, as it is at first, and tracks its tool.
   void setActive(bool active);
-  /// Begins at the pointer, or where the area is nearest to it.
+  /// Begins at the pointer.
   void Track(bool on, int ID);
-  /// Moves the tip to a pixel of the window.
+  /// Moves the tip to a pixel of the window, or to where the area is nearest to it.
   void MoveTo(const QPoint &tip);
 
 signals:
@@ -52,7 +52,6 @@ private:
   int style_ = 0;
   QString title_;
   int icon_ = 0;
-  QRect area_;
   int ID_ = 0;
   QString text_;
   bool active_ = true;
