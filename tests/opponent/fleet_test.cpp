@@ -2,12 +2,10 @@
 
 namespace {
 
-using FleetTest = BoardTest;
-
-TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
+TEST_F(BoardTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   // Boat 1 begins at (1, 4). It can go on only to (2, 4), and from there only back.
-  probe.forEach("...G/GGGG/...G/...G/...G/GGGG/...G/...G",
-                [&](int X, int Y, char cell) { probe.CFeld().set(X, Y, 1, cell == 'G' ? 7 : 0); });
+  forEachCell("...G/GGGG/...G/...G/...G/GGGG/...G/...G",
+              [&](int X, int Y, char cell) { probe.CFeld().set(X, Y, 1, cell == 'G' ? 7 : 0); });
   draw.expect(1, 10);
   draw.expect(4, 8);
   EXPECT_FALSE(probe.CreateComputerBoat(1));
@@ -16,7 +14,7 @@ TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   EXPECT_FALSE(grid.CBoote(1).hasPoints());
 }
 
-TEST_F(FleetTest, FullSeaFailsInBoundedTime) {
+TEST_F(BoardTest, FullSeaFailsInBoundedTime) {
   for (int Y = 1; Y <= 8; ++Y)
     for (int X = Y % 2 + 1; X <= 10; X += 2)
       probe.CFeld().set(X, Y, 1, 8);
