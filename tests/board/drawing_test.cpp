@@ -20,22 +20,15 @@ TEST_F(BoardTest, FieldsAreDrawnSizesFirstThenLinesThenWaterRingByRing) {
   for (int size = 1; const auto &s : sizes) {
     calls.clear();
     grid.setSize(size++);
-    const Calls begin{"right width " + s.width,
-                      "right height " + s.height,
-                      "left width " + s.width,
-                      "left height " + s.height,
-                      "ChangePicSize",
-                      "right clear",
-                      "left clear",
-                      "right draw width 1",
-                      "left draw width 1",
-                      "right line 0 0 0 " + s.height};
-    EXPECT_TRUE(std::equal(begin.begin(), begin.end(), calls.begin()));
+    EXPECT_EQ(calls[0], "right width " + s.width);
+    EXPECT_EQ(calls[3], "left height " + s.height);
+    EXPECT_EQ(calls[4], "ChangePicSize");
+    EXPECT_EQ(calls[9], "right line 0 0 0 " + s.height);
     EXPECT_EQ(std::set(calls.begin(), calls.end()).size(), s.different);
     for (const char *refresh : {"left refresh", "right refresh"})
       EXPECT_EQ(std::count(calls.begin(), calls.end(), refresh), s.refreshes);
-    const auto water = std::find(calls.begin(), calls.end(), "left refresh") + 1;
-    EXPECT_EQ(water[-3], "left line " + s.lowestLine);
+    EXPECT_EQ(std::find(calls.begin(), calls.end(), "right refresh")[-1],
+              "left line " + s.lowestLine);
     EXPECT_EQ(calls.end()[-3], "right Wasser " + s.innermostCell);
 
     grid.ResetFields();

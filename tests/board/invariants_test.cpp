@@ -13,10 +13,7 @@ TEST_F(BoardTest, BrokenBoardsAreFound) {
       {"a boat that sank in part", [&] { probe.setStatus(1, 1, tBoot::sunk); }},
       {"a boat hit all over that floats", [&] { probe.setStatus(6, 1, tBoot::hit); }},
       {"a point that follows a missing one",
-       [&] {
-         probe.PBoote(3).setPoint(3, 8, 4);
-         probe.PFeld().set(8, 4, 1, 3);
-       }},
+       [&] { probe.PBoote()[0].setPoint(2, 0, 0), probe.PFeld().set(1, 2, 1, 0); }},
       {"finishing a boat without a hit", [&] { grid.Treffer = 2; }},
   };
   for (const auto &[what, damage] : damages) {

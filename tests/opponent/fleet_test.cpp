@@ -4,8 +4,9 @@ namespace {
 
 TEST_F(BoardTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   // Boat 1 begins at (1, 4). It can go on only to (2, 4), and from there only back.
-  forEachCell("...G/GGGG/...G/...G/...G/GGGG/...G/...G",
-              [&](int X, int Y, char cell) { probe.CFeld().set(X, Y, 1, cell == 'G' ? 7 : 0); });
+  for (int Y = 1; Y <= 8; ++Y)
+    for (int X = Y == 2 || Y == 6 ? 1 : 4; X <= 4; ++X)
+      probe.CFeld().set(X, Y, 1, 7);
   draw.expect(1, 10);
   draw.expect(4, 8);
   EXPECT_FALSE(probe.CreateComputerBoat(1));

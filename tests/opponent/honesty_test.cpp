@@ -13,7 +13,7 @@ struct Honesty : BoardTest {
   static void set(clsGrid &board, const Fleet &fleet) {
     board.ResetFields();
     for (int BootID = 1; const tBoot &boat : fleet) {
-      for (int j = 1; boat.hasPoints() && j <= boat.length(); ++j)
+      for (int j = 1; j <= boat.length(); ++j)
         board.SetPoint(BootID, j, boat.X(j), boat.Y(j));
       ++BootID;
     }
@@ -30,22 +30,24 @@ struct Honesty : BoardTest {
   /// would have been another. False if one comes to a cell that was shot at.
   bool move(Fleet &fleet, int BootID) {
     tBoot &boat = fleet[static_cast<std::size_t>(BootID - 1)];
-    const tBoot home = std::exchange(boat, tBoot(boat.length()));
+    const auto isHit = [&](int j) { return grid.PBoote(BootID).Status(j) == tBoot::hit; };
     clsGrid sketch(chance);
     sketch.setSize(grid.Size());
     set(sketch, fleet);
+    sketch.DeleteBoat(BootID);
     int n = 0;
-    for (const bool wanted : {true, false}) // from the hits on
-      for (int j = 1; j <= boat.length(); ++j) {
-        const bool isHit = grid.PBoote(BootID).Status(j) == tBoot::hit;
-        if (isHit != wanted)
-          continue;
-        const auto cell = isHit ? home.cell(j) : randomPoint(sketch, BootID, chance);
-        if (!cell || (!isHit && grid.PFeld()(cell->X, cell->Y, 2) != Shot::none))
-          return false;
-        sketch.SetPoint(BootID, ++n, cell->X, cell->Y);
-        boat.setPoint(j, cell->X, cell->Y);
-      }
+    for (int j = 1; j <= boat.length(); ++j)
+      if (isHit(j))
+        sketch.SetPoint(BootID, ++n, boat.X(j), boat.Y(j));
+    for (int j = 1; j <= boat.length(); ++j) {
+      if (isHit(j))
+        continue;
+      const auto cell = randomPoint(sketch, BootID, chance);
+      if (!cell || grid.PFeld()(cell->X, cell->Y, 2) != Shot::none)
+        return false;
+      sketch.SetPoint(BootID, ++n, cell->X, cell->Y);
+      boat.setPoint(j, cell->X, cell->Y);
+    }
     return true;
   }
 };

@@ -5,32 +5,25 @@
 
 #include <gtest/gtest.h>
 
-/// Calls `f(X, Y, letter)` for each cell of a drawing: row by row, with `/` between the rows.
-template <typename F>
-void forEachCell(const char *drawing, F f) {
-  for (int X = 1, Y = 1; *drawing; ++drawing)
-    *drawing == '/' ? (X = 1, ++Y, void()) : f(X++, Y, *drawing);
-}
-
 /// What only tests may reach: arrays to set up positions, and single steps.
 class GridProbe {
 public:
   explicit GridProbe(clsGrid &grid) : grid_(grid) {}
 
-  /// Places boats of the computer or of the human on emptied fields, as far as drawn: `A` is boat
-  /// 1, `B` boat 2 and so on, `.` water, as is all that is left out. Points are numbered row by
-  /// row.
+  /// Places boats on emptied fields, as far as drawn, row by row with `/` between the rows: `A` is
+  /// boat 1, `B` boat 2 and so on, `.` water, as is all that is left out. Points are numbered
+  /// alike.
   void placeComputer(const char *fleet) { place(grid_.CFeld_, grid_.CBoote_, fleet); }
   void placeHuman(const char *fleet) { place(grid_.PFeld_, grid_.PBoote_, fleet); }
 
   Field &CFeld() { return grid_.CFeld_; }
   Field &PFeld() { return grid_.PFeld_; }
   std::vector<tBoot> &PBoote() { return grid_.PBoote_; }
-  tBoot &PBoote(int BootID) { return grid_.PBoote_[clsGrid::boat(BootID)]; }
   /// The state of a point of the human's boat, in its record and on the field.
   void setStatus(int BootID, int j, std::uint8_t status) {
-    PBoote(BootID).setStatus(j, status);
-    PFeld().set(PBoote(BootID).X(j), PBoote(BootID).Y(j), 2, status);
+    tBoot &boat = PBoote()[clsGrid::boat(BootID)];
+    boat.setStatus(j, status);
+    PFeld().set(boat.X(j), boat.Y(j), 2, status);
   }
 
   std::vector<Cell> ShotList() { return grid_.ShotList(); }
@@ -40,13 +33,14 @@ public:
 private:
   static void place(Field &field, std::vector<tBoot> &boats, const char *fleet) {
     std::vector<int> points(boats.size(), 0);
-    forEachCell(fleet, [&](int X, int Y, char letter) {
-      if (letter == '.')
-        return;
-      const auto i = static_cast<std::size_t>(letter - 'A');
-      boats.at(i).setPoint(++points[i], X, Y);
-      field.set(X, Y, 1, static_cast<std::uint8_t>(i + 1));
-    });
+    for (int X = 1, Y = 1; *fleet; ++X, ++fleet)
+      if (*fleet == '/') {
+        X = 0, ++Y;
+      } else if (*fleet != '.') {
+        const auto i = static_cast<std::size_t>(*fleet - 'A');
+        boats.at(i).setPoint(++points[i], X, Y);
+        field.set(X, Y, 1, static_cast<std::uint8_t>(i + 1));
+      }
   }
 
   clsGrid &grid_;
