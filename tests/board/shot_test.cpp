@@ -1,5 +1,3 @@
-// Shots at drawn fleets: their codes and their pictures.
-
 #include "BoardTest.h"
 
 namespace {
@@ -17,11 +15,9 @@ TEST_F(BoardTest, EachShotGivesItsCodeAndItsPictureOnce) {
       {{10, 8}, ShotCode::repeated, {}},
       {{3, 4}, ShotCode::hit, {"left Treffer 51 76 24 24"}}, // points in any order
       {{2, 3}, ShotCode::hit, {"left Treffer 26 51 24 24"}},
-      {{2, 3}, ShotCode::repeated, {}},
       {{3, 3},
        ShotCode::sunk, // point by point, and never a hit on the last
        {"left Versenkt 26 51 24 24", "left Versenkt 51 51 24 24", "left Versenkt 51 76 24 24"}},
-      {{3, 3}, ShotCode::repeated, {}},
       {{4, 5}, ShotCode::water, {"left Daneben 76 101 24 24"}}, // is not marked by the sinking
       {{2, 6}, ShotCode::hit, {"left Treffer 26 126 24 24"}},
       {computer, ShotCode::hit, {"right Treffer 51 26 24 24"}},

@@ -2,6 +2,14 @@
 
 namespace {
 
+TEST(RandomDraw, NeverLeavesItsRange) {
+  struct : RandomDraw {
+    double next() override { return 1 - 0x1p-32; } // the most that a source may give
+  } draw;
+  for (int n = 1; n <= 400; ++n)
+    EXPECT_EQ(draw.draw(n), n);
+}
+
 TEST_F(BoardTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   // Boat 1 begins at (1, 4). It can go on only to (2, 4), and from there only back.
   for (int Y = 1; Y <= 8; ++Y)

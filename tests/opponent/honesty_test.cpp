@@ -39,15 +39,14 @@ struct Honesty : BoardTest {
     for (int j = 1; j <= boat.length(); ++j)
       if (isHit(j))
         sketch.SetPoint(BootID, ++n, boat.X(j), boat.Y(j));
-    for (int j = 1; j <= boat.length(); ++j) {
-      if (isHit(j))
-        continue;
-      const auto cell = randomPoint(sketch, BootID, chance);
-      if (!cell || grid.PFeld()(cell->X, cell->Y, 2) != Shot::none)
-        return false;
-      sketch.SetPoint(BootID, ++n, cell->X, cell->Y);
-      boat.setPoint(j, cell->X, cell->Y);
-    }
+    for (int j = 1; j <= boat.length(); ++j)
+      if (!isHit(j)) {
+        const auto cell = randomPoint(sketch, BootID, chance);
+        if (!cell || grid.PFeld()(cell->X, cell->Y, 2) != Shot::none)
+          return false;
+        sketch.SetPoint(BootID, ++n, cell->X, cell->Y);
+        boat.setPoint(j, cell->X, cell->Y);
+      }
     return true;
   }
 };
@@ -64,7 +63,7 @@ TEST_F(Honesty, CellsNotHitMayLieAnywhere) {
       const auto list = battle(home, shots);
       std::vector<Fleet> others;
       for (int i = 1; i <= grid.BoatCount(); ++i)
-        for (int attempt = 0; grid.PBoote(i).isAfloat() && attempt < 10; ++attempt)
+        for (int attempt = 0; grid.PBoote(i).isAfloat() && attempt < 5; ++attempt)
           if (Fleet other = home; move(other, i))
             others.push_back(other);
       for (const Fleet &other : others)

@@ -36,12 +36,11 @@ struct ScoreTest : testing::Test {
 TEST_F(ScoreTest, ResultsToTheByte) {
   for (std::size_t i = 0; i < 1800; i += 60)
     EXPECT_EQ(empty.substr(i, 60), row("unbekannt", "?"));
-  const std::string longest(28, 'n');
   EXPECT_EQ(score.EnterScore(2, "A", 30), 1);
-  EXPECT_EQ(score.EnterScore(2, longest, 35), 2);
+  EXPECT_EQ(score.EnterScore(2, std::string(28, 'n'), 35), 2);
   EXPECT_EQ(score.EnterScore(2, "Jörg", 30), 1) << "the newer of two equal results";
   EXPECT_EQ(read(file), empty.substr(0, 600) + row("J\xF6rg", "30") + row("A", "30") +
-                            row(longest, "35") + empty.substr(780));
+                            row(std::string(28, 'n'), "35") + empty.substr(780));
   EXPECT_EQ(score.LoadScore(), Score::Loaded::whole);
 }
 
@@ -55,7 +54,6 @@ TEST_F(ScoreTest, DamagedFileKeepsItsSoundRowsAndACopy) {
   EXPECT_EQ(score.row(1, 2), (Score::Row{"c", "50"}));
   EXPECT_FALSE(fs::exists(copy.string() + ".1")) << "copied once only";
   EXPECT_EQ(load('\x1D' + rows.substr(1)), damaged) << "a text of 29 bytes";
-  EXPECT_EQ(read(copy).at(0), 29);
   EXPECT_EQ(read(copy.string() + ".1"), rows) << "the older copy is kept";
 
   EXPECT_EQ(load(empty.substr(0, 1772)), damaged);
@@ -64,10 +62,9 @@ TEST_F(ScoreTest, DamagedFileKeepsItsSoundRowsAndACopy) {
 }
 
 TEST(Score, NumbersAndTextsAreChecked) {
-  const std::pair<const char *, int> quotes[] = {{"32767", 32767}, {"32768", 0}, {"0", 0},
-                                                 {"-5", 0},        {"4 7", 0},   {" 47", 0}};
-  for (const auto &[quote, bombs] : quotes)
-    EXPECT_EQ((Score::Row{"", quote}.bombs()), bombs) << quote;
+  EXPECT_EQ((Score::Row{"", "32767"}.bombs()), 32767);
+  for (const char *quote : {"32768", "0", "-5", "4 7", " 47"})
+    EXPECT_EQ((Score::Row{"", quote}.bombs()), 0) << quote;
   EXPECT_EQ(fromWindows1252("\x80\xE4\x9F"), "€äŸ");
   EXPECT_EQ(toWindows1252("€äŸ"), "\x80\xE4\x9F");
   EXPECT_EQ(toWindows1252("\xE2\x82z\xC3"), "??z?") << "a character that ends too early";

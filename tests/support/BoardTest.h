@@ -10,9 +10,8 @@ class GridProbe {
 public:
   explicit GridProbe(clsGrid &grid) : grid_(grid) {}
 
-  /// Places boats on emptied fields, as far as drawn, row by row with `/` between the rows: `A` is
-  /// boat 1, `B` boat 2 and so on, `.` water, as is all that is left out. Points are numbered
-  /// alike.
+  /// Places boats on emptied fields, as far as drawn: rows with `/` between them, `A` for a point
+  /// of boat 1, `B` of boat 2 and so on, `.` for water. Points are numbered row by row.
   void placeComputer(const char *fleet) { place(grid_.CFeld_, grid_.CBoote_, fleet); }
   void placeHuman(const char *fleet) { place(grid_.PFeld_, grid_.PBoote_, fleet); }
 
