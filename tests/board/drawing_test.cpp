@@ -1,65 +1,38 @@
 #include "BoardTest.h"
 
+#include <algorithm>
+#include <set>
+
 namespace {
 
-struct DrawingTest : BoardTest, testing::WithParamInterface<int> {
-  int p = 0; ///< from one cell to the next
-
-  void SetUp() override {
-    grid.ChangePicSize = [this] { calls.emplace_back("ChangePicSize"); };
-    grid.setSize(GetParam());
-    p = grid.CellSize() + 1;
-  }
-};
-
-TEST_P(DrawingTest, SizesComeFirstThenLinesThenWaterRingByRing) {
-  const int sizes[][2] = {{253, 203}, {288, 231}, {323, 259}};
-  const auto [width, height] = sizes[GetParam() - 1];
-  const int columns = grid.columns(), rows = grid.rows();
-  Calls expected;
-  const auto add = [&](const char *field, const char *what, const std::vector<int> &numbers = {}) {
-    expected.push_back(RecordingSurface::call(std::string(field) + ' ' + what, numbers));
+TEST_F(BoardTest, FieldsAreDrawnSizesFirstThenLinesThenWaterRingByRing) {
+  grid.ChangePicSize = [this] { calls.emplace_back("ChangePicSize"); };
+  struct {
+    unsigned different; ///< calls: all lines and all cells are drawn, each in its place
+    std::string width, height, lowestLine, innermostCell, pointInWork;
+  } const sizes[] = {
+      {211, "253", "203", "0 200 253 200", "151 101 24 24", "226 176 249 199"},
+      {429, "288", "231", "0 228 288 228", "172 115 18 18", "267 210 284 227"},
+      {727, "323", "259", "0 256 323 256", "193 129 15 15", "305 241 319 255"},
   };
-  for (const char *field : {"right", "left"})
-    add(field, "width", {width}), add(field, "height", {height});
-  expected.emplace_back("ChangePicSize");
-  for (const char *what : {"clear", "draw width 1"})
-    add("right", what), add("left", what);
-  for (int i = 0; i <= columns; ++i)
-    for (const char *field : {"right", "left"})
-      add(field, "line", {p * i, 0, p * i, height});
-  for (int i = 0; i <= rows; ++i)
-    for (const char *field : {"right", "left"})
-      add(field, "line", {0, p * i, width, p * i});
-  add("right", "refresh"), add("left", "refresh");
-  for (int ring = 0; ring < rows / 2; ++ring) {
-    const auto pair = [&](int X1, int Y1, int X2, int Y2) {
-      for (const char *field : {"left", "right"}) {
-        add(field, "Wasser", {p * X1 + 1, p * Y1 + 1, p - 1, p - 1});
-        add(field, "Wasser", {p * X2 + 1, p * Y2 + 1, p - 1, p - 1});
-      }
-    };
-    for (int X = ring; X < columns - ring; ++X)
-      pair(X, ring, X, rows - 1 - ring);
-    for (int Y = ring; Y < rows - ring; ++Y)
-      pair(ring, Y, columns - 1 - ring, Y);
-    add("left", "refresh"), add("right", "refresh");
+  for (int size = 1; const auto &s : sizes) {
+    calls.clear();
+    grid.setSize(size++);
+    EXPECT_EQ(calls[0], "right width " + s.width);
+    EXPECT_EQ(calls[3], "left height " + s.height);
+    EXPECT_EQ(calls[4], "ChangePicSize");
+    EXPECT_EQ(calls[9], "right line 0 0 0 " + s.height);
+    EXPECT_EQ(std::set(calls.begin(), calls.end()).size(), s.different);
+    for (const char *refresh : {"left refresh", "right refresh"})
+      EXPECT_EQ(std::count(calls.begin(), calls.end(), refresh), 1 + grid.rows() / 2);
+    EXPECT_EQ(std::find(calls.begin(), calls.end(), "right refresh")[-1],
+              "left line " + s.lowestLine);
+    EXPECT_EQ(calls.end()[-3], "right Wasser " + s.innermostCell);
+
+    grid.ResetFields();
+    grid.SetPoint(1, 1, grid.columns(), grid.rows());
+    EXPECT_EQ(calls.back(), "left blue box " + s.pointInWork);
   }
-  EXPECT_EQ(calls, expected);
 }
-
-TEST_P(DrawingTest, PointInWorkFillsItsCellOnly) {
-  grid.ResetFields();
-  calls.clear();
-  const int X = grid.columns(), Y = grid.rows();
-  grid.SetPoint(1, 1, X, Y);
-  const std::vector<int> box{p * (X - 1) + 1, p * (Y - 1) + 1, p * X - 1, p * Y - 1};
-  EXPECT_EQ(calls.back(), RecordingSurface::call("left blue box", box));
-  calls.clear();
-  grid.DeleteBoat(1);
-  EXPECT_EQ(calls, Calls{RecordingSurface::call("left Wasser", {box[0], box[1], p - 1, p - 1})});
-}
-
-INSTANTIATE_TEST_SUITE_P(Sizes, DrawingTest, testing::Values(1, 2, 3));
 
 } // namespace

@@ -2,12 +2,19 @@
 
 namespace {
 
-using FleetTest = BoardTest;
+TEST(RandomDraw, NeverLeavesItsRange) {
+  struct : RandomDraw {
+    double next() override { return 1 - 0x1p-32; } // the most that a source may give
+  } draw;
+  for (int n = 1; n <= 400; ++n)
+    EXPECT_EQ(draw.draw(n), n);
+}
 
-TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
+TEST_F(BoardTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   // Boat 1 begins at (1, 4). It can go on only to (2, 4), and from there only back.
-  probe.forEach("...G/GGGG/...G/...G/...G/GGGG/...G/...G",
-                [&](int X, int Y, char cell) { probe.CFeld().set(X, Y, 1, cell == 'G' ? 7 : 0); });
+  for (int Y = 1; Y <= 8; ++Y)
+    for (int X = Y == 2 || Y == 6 ? 1 : 4; X <= 4; ++X)
+      probe.CFeld().set(X, Y, 1, 7);
   draw.expect(1, 10);
   draw.expect(4, 8);
   EXPECT_FALSE(probe.CreateComputerBoat(1));
@@ -16,7 +23,7 @@ TEST_F(FleetTest, EndlessDeadEndIsGivenUpWithoutATrace) {
   EXPECT_FALSE(grid.CBoote(1).hasPoints());
 }
 
-TEST_F(FleetTest, FullSeaFailsInBoundedTime) {
+TEST_F(BoardTest, FullSeaFailsInBoundedTime) {
   for (int Y = 1; Y <= 8; ++Y)
     for (int X = Y % 2 + 1; X <= 10; X += 2)
       probe.CFeld().set(X, Y, 1, 8);
