@@ -5,7 +5,6 @@
 // hint stays up to three seconds. While the pointer is over the toolbar, the hint is hidden until
 // the pointer is back on the window's own surface, the strip below the toolbar.
 
-#include "EventPump.h"
 #include "frmHaupt.h"
 
 #include <QMouseEvent>
@@ -87,10 +86,10 @@ bool frmHaupt::eventFilter(QObject *watched, QEvent *event) {
     return QWidget::eventFilter(watched, event);
 
   if (watched == &tbToolbar) {
-    if (isMove && ToolTip_) {
+    // Events run when this returns. Let run here, those that follow a press would overtake it, as Qt
+    // sends the move to its place first.
+    if (isMove && ToolTip_)
       TTip_.setActive(false);
-      letEventsRun();
-    }
     return true;
   }
   if (isMove)
