@@ -3,6 +3,8 @@
 #include "Robot.h"
 #include "printQt.h"
 
+#include <QComboBox>
+#include <QInputMethodEvent>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -21,6 +23,14 @@ inline void key(QWidget &window, Qt::Key code, const QString &text = {},
   QWidget *list = QApplication::activePopupWidget();
   QWidget *focus = (list ? list : &window)->focusWidget();
   QTest::sendKeyEvent(QTest::Click, focus ? focus : &window, code, text, modifiers);
+}
+
+/// A text as a dead key or another input method brings it: first shown, then taken over.
+inline void compose(QComboBox &box, const QString &text) {
+  QInputMethodEvent shown(text, {}), taken;
+  taken.setCommitString(text);
+  QApplication::sendEvent(&box, &shown);
+  QApplication::sendEvent(&box, &taken);
 }
 
 /// Waits for a window to close: an access key clicks only when its button has been seen pressed.
