@@ -16,8 +16,8 @@ struct MainWindow : QWidget {
   }
 };
 
-/// A key as the window system delivers it: with the text that it types, to a list that is dropped
-/// down or where the focus is.
+/// A key as the window system delivers it: with the text that it types, if it does, to a list that
+/// is dropped down or where the focus is.
 inline void key(QWidget &window, Qt::Key code, const QString &text = {},
                 Qt::KeyboardModifiers modifiers = {}) {
   QWidget *list = QApplication::activePopupWidget();
