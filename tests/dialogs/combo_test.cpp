@@ -80,6 +80,7 @@ TEST_F(IntelliCombo, CompletesKeyByKey) {
     fill();
     type(keys);
     EXPECT_EQ(state(), expected) << keys;
+    EXPECT_FALSE(box.view()->isVisible()) << keys;
   }
   key(main, Qt::Key_Backspace, "\b", Qt::ControlModifier); // the word, as ever
   EXPECT_EQ(box.currentText(), "");
@@ -106,10 +107,11 @@ TEST_F(IntelliCombo, FailuresTellAndLoseNothing) {
   file.write("--" + QByteArray(1001, '9') + "\r\nopen"); // a line too long to be a name
   file.close();
   EXPECT_TRUE(combo.Save(names, true));
+  box.clear();
   box.setEditText("typed");
   EXPECT_TRUE(combo.Load(names, true));
-  EXPECT_EQ(box.count(), 6 + 5 + 1 + 6);
-  EXPECT_EQ(box.itemText(11), "open");
+  EXPECT_EQ(box.count(), 5 + 1 + 6);
+  EXPECT_EQ(box.itemText(5), "open");
   EXPECT_EQ(state(), "typed -1");
   ASSERT_TRUE(QFile::resize(names, 5'000'000'000));
   EXPECT_FALSE(combo.Load(names) || combo.Save(names, true));

@@ -44,11 +44,10 @@ TEST_F(PictureBoxTest, DrawsExactlyThePixelsAskedForInsideABlackBorder) {
   box.filledBox(9, 9, 3, 3, Colour::black); // inverted, so nothing
   const char *const names[] = {"wasser", "boot", "daneben", "treffer", "versenkt"};
   for (int i = 0; i < 5; ++i) {
-    QImage cell = loadImage(QString("%1@2x").arg(names[i]))
-                      .scaled(QSize(24, 24) * box.devicePixelRatio(), Qt::IgnoreAspectRatio,
-                              Qt::SmoothTransformation);
-    cell.setDevicePixelRatio(box.devicePixelRatio());
-    painter.drawImage(60 * i, 40, cell); // of the last one a part
+    const QImage cell = loadImage(QString(names[i]) + "@2x");
+    painter.drawImage(QRect(60 * i, 40, 24, 24), // of the last one a part
+                      cell.scaled(QSize(24, 24) * box.devicePixelRatio(), Qt::IgnoreAspectRatio,
+                                  Qt::SmoothTransformation));
     box.sprite(static_cast<Picture>(i), 60 * i, 40, 24, 24);
   }
   EXPECT_EQ(box.content(), expected);
