@@ -88,18 +88,14 @@ TEST(Help, OneWalkThroughTheBook) {
 TEST(Help, WhatIsNoBookOpensNothing) {
   const QTemporaryDir folder;
   QtHelpViewer viewer;
-  QFile book(KORVEL_BOOK), damaged(folder.filePath("damaged")), half(folder.filePath("half"));
-  ASSERT_TRUE(book.open(QFile::ReadOnly) && damaged.open(QFile::WriteOnly) &&
-              half.open(QFile::WriteOnly));
-  half.write(book.read(book.size() / 2));
-  half.close();
-  book.seek(0);
+  QFile book(KORVEL_BOOK), damaged(folder.filePath("damaged"));
+  ASSERT_TRUE(book.open(QFile::ReadOnly) && damaged.open(QFile::WriteOnly));
   damaged.write(book.read(4096));
   while (!book.atEnd()) // holes in all pages of the file but the first
     damaged.write(book.read(4096).replace(0, 64, QByteArray(64, 'x')));
   damaged.close();
   ASSERT_EQ(mkfifo(qPrintable(folder.filePath("pipe")), 0600), 0);
-  for (const char *name : {"missing", "pipe", "half", "damaged"}) {
+  for (const char *name : {"missing", "pipe", "damaged"}) {
     const QString failure = viewer.show(folder.filePath(name), Entry::index);
     EXPECT_EQ(failure, "Die Hilfedatei fehlt oder ist beschädigt.") << name;
     EXPECT_EQ(viewer.window(), nullptr) << name;
