@@ -29,26 +29,23 @@ double contrast(const QColor &a, const QColor &b) {
 
 /// The least contrast between a text and its background, found by taking the text away.
 double contrastOf(QWidget &control) {
-  const QRect place(control.mapTo(control.window(), QPoint()), control.size());
   const QVariant text = control.property("text");
-  control.setProperty("text", text); // not selected
-  const QImage written = control.window()->grab(place).toImage();
-  control.setProperty("text", " "); // not empty, which would move an icon
-  const QImage behind = control.window()->grab(place).toImage();
-  control.setProperty("text", text);
+  const auto pixels = [&](const QVariant &shown) {
+    control.setProperty("text", shown);
+    const QRect place(control.mapTo(control.window(), QPoint()), control.size());
+    const QImage image = control.window()->grab(place).toImage();
+    const auto *first = reinterpret_cast<const QRgb *>(image.constBits());
+    return std::vector(first, first + image.width() * image.height());
+  };
+  const auto behind = pixels(" "), written = pixels(text); // not empty, which would move an icon
   QRgb ink = 0;
-  double most = 0;
-  double least = 21;
-  for (const bool inkIsKnown : {false, true})
-    for (int y = 0; y < written.height(); ++y)
-      for (int x = 0; x < written.width(); ++x) {
-        const QRgb ground = behind.pixel(x, y);
-        const double own = contrast(written.pixel(x, y), ground);
-        if (!inkIsKnown && own > most)
-          most = own, ink = written.pixel(x, y);
-        else if (inkIsKnown && written.pixel(x, y) != ground)
-          least = std::min(least, contrast(ink, ground));
-      }
+  double most = 0, least = 21;
+  for (std::size_t i = 0; i < behind.size(); ++i)
+    if (const double own = contrast(written[i], behind[i]); own > most)
+      most = own, ink = written[i];
+  for (std::size_t i = 0; i < behind.size(); ++i)
+    if (written[i] != behind[i])
+      least = std::min(least, contrast(ink, behind[i]));
   return least;
 }
 
