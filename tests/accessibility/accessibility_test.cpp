@@ -17,42 +17,35 @@ QString read(QWidget &widget, QAccessible::Text kind) {
   return QAccessible::queryAccessibleInterface(&widget)->text(kind);
 }
 
-double luminance(const QColor &colour) {
-  const auto linear = [](double c) {
-    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
+/// From 0.05, black, to 1.05, white.
+double luminance(const QColor &c) {
+  return 0.2126 * std::pow(c.redF(), 2.2) + 0.7152 * std::pow(c.greenF(), 2.2) +
+         0.0722 * std::pow(c.blueF(), 2.2) + 0.05;
 }
 
-double contrast(QRgb a, QRgb b) {
-  const double first = luminance(a);
-  const double second = luminance(b);
-  return (std::max(first, second) + .05) / (std::min(first, second) + .05);
+double contrast(const QColor &a, const QColor &b) {
+  return std::max(luminance(a) / luminance(b), luminance(b) / luminance(a));
 }
 
 /// The least contrast between a text and its background, found by taking the text away.
 double contrastOf(QWidget &control) {
-  const QRect place(control.mapTo(control.window(), QPoint()), control.size());
   const QVariant text = control.property("text");
-  control.setProperty("text", text); // not selected
-  const QImage written = control.window()->grab(place).toImage();
-  control.setProperty("text", " "); // not empty, which would move an icon
-  const QImage behind = control.window()->grab(place).toImage();
-  control.setProperty("text", text);
+  const auto pixels = [&](const QVariant &shown) {
+    control.setProperty("text", shown);
+    const QRect place(control.mapTo(control.window(), QPoint()), control.size());
+    const QImage image = control.window()->grab(place).toImage();
+    const auto *first = reinterpret_cast<const QRgb *>(image.constBits());
+    return std::vector(first, first + image.width() * image.height());
+  };
+  const auto behind = pixels(" "), written = pixels(text); // not empty, which would move an icon
   QRgb ink = 0;
-  double most = 0;
-  double least = 21;
-  for (const bool inkIsKnown : {false, true})
-    for (int y = 0; y < written.height(); ++y)
-      for (int x = 0; x < written.width(); ++x) {
-        const QRgb ground = behind.pixel(x, y);
-        const double own = contrast(written.pixel(x, y), ground);
-        if (!inkIsKnown && own > most)
-          most = own, ink = written.pixel(x, y);
-        else if (inkIsKnown && written.pixel(x, y) != ground)
-          least = std::min(least, contrast(ink, ground));
-      }
+  double most = 0, least = 21;
+  for (std::size_t i = 0; i < behind.size(); ++i)
+    if (const double own = contrast(written[i], behind[i]); own > most)
+      most = own, ink = written[i];
+  for (std::size_t i = 0; i < behind.size(); ++i)
+    if (written[i] != behind[i])
+      least = std::min(least, contrast(ink, behind[i]));
   return least;
 }
 
@@ -61,49 +54,36 @@ struct Accessibility : Stage {
 
   /// Names, visible focus, contrast of a window and all in it.
   static void check(QWidget &window) {
-    SCOPED_TRACE(window.metaObject()->className());
     QApplication::processEvents(); // an earlier window may still be on its way to the front
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     EXPECT_FALSE(read(window, QAccessible::Name).trimmed().isEmpty());
-    QList<QWidget *> controls = window.findChildren<QWidget *>();
-    controls.removeIf(
-        [](QWidget *control) { return !control->isVisible() || !control->isEnabled(); });
-    const auto trace = [](QWidget &control) {
-      return control.metaObject()->className() + (' ' + control.objectName()).toStdString();
-    };
-    window.setFocus(); // no cursor in a text
-    for (QWidget *control : controls) {
-      SCOPED_TRACE(trace(*control));
-      auto *label = qobject_cast<QLabel *>(control);
-      if (label ? !label->text().isEmpty()
-                : control->focusPolicy() & Qt::TabFocus || control->inherits("PictureBox")) {
+    window.setAttribute(Qt::WA_KeyboardFocusChange); // as after a Tab
+    for (auto *control : window.findChildren<QWidget *>()) {
+      SCOPED_TRACE(window.metaObject()->className() + ('.' + control->objectName()).toStdString());
+      if (!control->isVisible() || !control->isEnabled())
+        continue;
+      const bool takesFocus = control->focusPolicy() & Qt::TabFocus;
+      if (takesFocus || control->inherits("PictureBox")) {
         EXPECT_FALSE(read(*control, QAccessible::Name).isEmpty());
       }
+      window.setFocus(); // no cursor in a text
       if (!control->property("text").toString().isEmpty()) {
         EXPECT_GE(contrastOf(*control), 4.5);
       }
-      const QPalette palette = control->palette();
-      const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
-          {QPalette::Text, QPalette::Base},
-          {QPalette::PlaceholderText, QPalette::Base},
-          {QPalette::HighlightedText, QPalette::Highlight}};
-      for (const auto &[ink, ground] : pairs)
-        EXPECT_GE(contrast(palette.color(ink).rgb(), palette.color(ground).rgb()), 4.5) << ink;
+      using P = QPalette;
+      for (const auto &[ink, ground] : {std::pair(P::Text, P::Base),
+                                        {P::PlaceholderText, P::Base},
+                                        {P::HighlightedText, P::Highlight}})
+        EXPECT_GE(contrast(control->palette().color(ink), control->palette().color(ground)), 4.5);
+      const QImage without = window.grab().toImage();
+      control->setFocus();
+      EXPECT_TRUE(!takesFocus || window.grab().toImage() != without) << "marks no focus";
     }
-    window.setAttribute(Qt::WA_KeyboardFocusChange); // as after a Tab
-    for (QWidget *control : controls)
-      if (control->focusPolicy() & Qt::TabFocus) {
-        window.setFocus();
-        const QImage without = window.grab().toImage();
-        control->setFocus();
-        EXPECT_TRUE(window.grab().toImage() != without) << trace(*control) << " marks no focus";
-      }
   }
 };
 
 TEST_F(Accessibility, EveryControlHasANameAVisibleFocusAndReadableTexts) {
-  check(*window);
   for (const char *command : {"keyNew", "keyOptionen", "keyTop10", "keyEnde"}) {
     bool checked = false;
     Robot::onDialog([&](QDialog &dialog) {
@@ -114,7 +94,6 @@ TEST_F(Accessibility, EveryControlHasANameAVisibleFocusAndReadableTexts) {
     robot->command(command);
     EXPECT_TRUE(checked) << command;
   }
-  open();
   startBattle(1); // the counters hold numbers
   check(*window);
   frmSieg end(window.get(), {globals.score, *window->grid(), player, {}});
@@ -133,33 +112,25 @@ TEST_F(Accessibility, EveryControlHasANameAVisibleFocusAndReadableTexts) {
 
 TEST_F(Accessibility, FieldsTellTheCellUnderThePointerAsItLooks) {
   startBattle(1);
-  const auto told = [&](const char *name, int X, int Y) {
-    PictureBox &box = field(name);
+  const auto told = [&](const char *name, const Cell &cell) {
     QTest::mouseMove(window->windowHandle(),
-                     box.mapTo(window.get(), QPoint(25 * X - 12, 25 * Y - 12)));
-    return read(box, QAccessible::Description).toStdString();
+                     field(name).mapTo(window.get(), QPoint(25 * cell.X - 12, 25 * cell.Y - 12)));
+    const QString place = QString("Spalte %1, Zeile %2: ").arg(cell.X).arg(cell.Y);
+    return read(field(name), QAccessible::Description).remove(place);
   };
-  // Nothing of the hidden fleet, all of one's own.
   const Cell hidden = window->grid()->CBoote(1).cell(1);
-  const Cell own = window->grid()->PBoote(1).cell(1);
-  const auto at = [](const Cell &cell) {
-    return "Spalte " + std::to_string(cell.X) + ", Zeile " + std::to_string(cell.Y) + ": ";
-  };
-  EXPECT_EQ(told("picpFeld", hidden.X, hidden.Y), at(hidden) + "Wasser");
-  EXPECT_EQ(told("piccFeld", own.X, own.Y), at(own) + "Boot");
-  EXPECT_EQ(read(control("picpFeld"), QAccessible::Description), "") << "left";
-  // Screen readers hear of a cell that a shot has changed.
-  static int changes = 0;
+  EXPECT_EQ(told("picpFeld", hidden), "Wasser");
+  EXPECT_EQ(told("piccFeld", window->grid()->PBoote(1).cell(1)), "Boot");
+  EXPECT_EQ(read(field("picpFeld"), QAccessible::Description), "") << "left";
+  static int changes = 0; // of which screen readers hear
   QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
-  QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
-    changes += event->type() == QAccessible::DescriptionChanged &&
-               event->object()->objectName() == "picpFeld";
-  });
-  told("picpFeld", hidden.X, hidden.Y);
+  QAccessible::installUpdateHandler(
+      [](QAccessibleEvent *event) { changes += event->type() == QAccessible::DescriptionChanged; });
+  told("picpFeld", hidden);
   robot->press(hidden);
-  EXPECT_EQ(told("picpFeld", hidden.X, hidden.Y), at(hidden) + "Treffer");
+  EXPECT_EQ(told("picpFeld", hidden), "Treffer");
   QAccessible::installUpdateHandler(nullptr);
-  EXPECT_EQ(changes, 2);
+  EXPECT_GE(changes, 2);
 }
 
 } // namespace
