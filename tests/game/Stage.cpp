@@ -2,18 +2,15 @@
 
 #include "sounds.h"
 
+#include <functional>
 #include <utility>
-
-Stage::Stage() { open(); }
 
 void Stage::open() {
   robot.reset();
   window = Main(globals, services, folder.path());
   robot.emplace(*window);
   control("picpFeld").installEventFilter(&left_);
-  sound.wording = [this](const std::string &call, const Klang &klang) {
-    return heard(call, klang);
-  };
+  sound.wording = std::bind_front(&Stage::heard, this);
   sound.log.clear();
 }
 
@@ -63,21 +60,19 @@ void Stage::startBattle(int size) {
   forget();
 }
 
+void Stage::shootAll(int BootID) {
+  while (window->grid() && window->Modus() == frmHaupt::Battle && fresh(BootID).X != 0)
+    robot->press(fresh(BootID));
+}
+
 void Stage::winAsHuman() {
   for (int i = 1; window->grid() && i <= window->grid()->BoatCount(); ++i)
-    while (window->grid() && window->Modus() == frmHaupt::Battle &&
-           !window->grid()->CBoote(i).isSunk())
-      robot->press(fresh(i));
+    shootAll(i);
 }
 
 void Stage::letComputerWin() {
-  // Water as long as there is some, then boats other than the first.
-  int water = 0;
-  for (int Y = 1; Y <= window->grid()->rows(); ++Y)
-    for (int X = 1; X <= window->grid()->columns(); ++X)
-      water += window->grid()->CFeld()(X, Y, 1) == 0 && window->grid()->CFeld()(X, Y, 2) == 0;
-  while (window->grid() && window->Modus() == frmHaupt::Battle)
-    robot->press(fresh(water-- > 0 ? 0 : window->grid()->CBoote(2).isSunk() ? 3 : 2));
+  for (const int BootID : {0, 2, 3}) // not the first
+    shootAll(BootID);
 }
 
 Cell Stage::fresh(int BootID) const {
@@ -86,6 +81,5 @@ Cell Stage::fresh(int BootID) const {
     for (int X = 1; X <= sea.columns(); ++X)
       if (sea(X, Y, 1) == BootID && sea(X, Y, 2) == Shot::none)
         return {X, Y};
-  ADD_FAILURE() << "no cell is left\n" << window->grid()->toText();
-  return {1, 1};
+  return {0, 0};
 }

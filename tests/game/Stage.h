@@ -13,7 +13,8 @@
 /// The real main window with everything outside it replaced.
 class Stage : public testing::Test {
 protected:
-  Stage();
+  Stage() { open(); }
+  void open();
 
   QWidget &control(const QString &name) { return Robot::control(*window, name); }
   PictureBox &field(const char *name) { return Robot::control<PictureBox>(*window, name); }
@@ -26,7 +27,8 @@ protected:
   /// Presses until the game is over; the end's dialog has to be answered.
   void winAsHuman();
   void letComputerWin();
-  /// A cell of the hidden fleet that was not shot at: of the boat, or water for boat 0.
+  /// A cell of the hidden fleet that was not shot at, of the boat, or water for boat 0. Without one
+  /// its `X` is 0.
   Cell fresh(int BootID) const;
 
   ScriptedDraw draw;
@@ -41,11 +43,10 @@ protected:
   std::unique_ptr<frmHaupt> window;
   std::optional<Robot> robot;
 
-  void open();
-
 private:
   std::string heard(const std::string &call, const Klang &klang);
   std::string changes();
+  void shootAll(int BootID);
 
   QImage right_;
   std::vector<QString> counters_;

@@ -6,59 +6,60 @@
 
 namespace {
 
-using Battle = Stage;
+struct Battle : Stage {
+  Battle() { startBattle(1); }
 
-// The computer's reply is random: it stands in the log as `reply`.
-Log sounds(Log log) {
-  for (std::string &entry : log)
-    if (entry == "R start Wasser" || entry == "R start Treffer" || entry == "RC start Versenkt")
-      entry = "reply";
-  return log;
-}
+  /// The log; the computer's reply is random and stands as `reply`.
+  Log sounds() {
+    Log log = sound.log;
+    for (std::string &entry : log)
+      if (entry == "R start Wasser" || entry == "R start Treffer" || entry == "RC start Versenkt")
+        entry = "reply";
+    return log;
+  }
 
-// As the window system queues it.
-void queueClick(QWidget &control, QPoint at) {
-  QWindow *handle = control.window()->windowHandle();
-  const QPointF local = control.mapTo(control.window(), at);
-  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-    QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
-        handle, local, handle->mapToGlobal(local),
-        type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type);
-  // The pointer goes on at once.
-  QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
-      handle, QPointF(9, 460), handle->mapToGlobal(QPointF(9, 460)), Qt::NoButton, Qt::NoButton,
-      QEvent::MouseMove);
-}
-
-QPoint middleOf(const Cell &cell) { return QPoint(25 * cell.X - 12, 25 * cell.Y - 12); }
+  /// As the window system queues it; the pointer goes on at once.
+  void queueClick(const QString &name, QPoint at) {
+    QWindow *handle = window->windowHandle();
+    const QPoint place = control(name).mapTo(window.get(), at);
+    const std::tuple<QEvent::Type, QPoint, Qt::MouseButtons, Qt::MouseButton> events[] = {
+        {QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton},
+        {QEvent::MouseButtonRelease, place, Qt::NoButton, Qt::LeftButton},
+        {QEvent::MouseMove, {9, 460}, Qt::NoButton, Qt::NoButton}};
+    for (const auto &[type, point, state, button] : events)
+      QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
+          handle, point, handle->mapToGlobal(point), state, button, type);
+  }
+  void queueShot(const Cell &cell) { queueClick("picpFeld", {25 * cell.X - 12, 25 * cell.Y - 12}); }
+  static void letAllRun() {
+    for (int i = 0; i < 20; ++i)
+      QCoreApplication::processEvents();
+  }
+  std::pair<int, int> bombs() { return {window->BombenZahl(0), window->BombenZahl(1)}; }
+};
 
 TEST_F(Battle, TurnPaintsThenWaitsThenReplies) {
-  startBattle(1);
   const std::pair<int, const char *> turns[] = {
       {0, "L wait Wasser"}, {1, "L wait Treffer"}, {8, "LC wait Versenkt"}}; // counters before it
   for (const auto &[BootID, heard] : turns) {
     sound.log.clear();
     robot->press(fresh(BootID));
-    EXPECT_EQ(sounds(sound.log), (Log{heard, "reply"}));
+    EXPECT_EQ(sounds(), (Log{heard, "reply"}));
   }
   EXPECT_EQ(counters()[11], "2");
-  EXPECT_EQ(std::pair(window->BombenZahl(0), window->BombenZahl(1)), std::pair(3, 3));
+  EXPECT_EQ(bombs(), std::pair(3, 3));
 }
 
 TEST_F(Battle, WinningShotGetsNoReply) {
-  startBattle(2);
   Robot::answer("cmdNein");
   winAsHuman();
-  ASSERT_EQ(window->Modus(), frmHaupt::Over);
-  EXPECT_EQ(std::pair(window->BombenZahl(0), window->BombenZahl(1)), std::pair(29, 28));
+  EXPECT_EQ(bombs(), std::pair(17, 16));
   EXPECT_EQ(Log(sound.log.end() - 2, sound.log.end()), (Log{"LC wait Versenkt", "start Sieg"}));
 }
 
 TEST_F(Battle, ComputerWinsAndShowsWhatWasLeft) {
-  startBattle(1);
   Robot::answer("cmdNein");
   letComputerWin();
-  ASSERT_EQ(winnerOf(window->grid()->BoatTable(2)), 2) << "this seed serves";
   EXPECT_EQ(window->BombenZahl(0), window->BombenZahl(1));
   EXPECT_EQ(Log(sound.log.end() - 2, sound.log.end()),
             (Log{"RC start Versenkt", "L start Verloren"}));
@@ -71,16 +72,13 @@ TEST_F(Battle, ComputerWinsAndShowsWhatWasLeft) {
 // Presses that arrive while a turn lets events run stay queued: each is a whole turn of its own,
 // and a toolbar command waits as well.
 TEST_F(Battle, QueuedPressesDoNotNest) {
-  startBattle(1);
   const Cell first = fresh(8); // sinks: events run twice in its turn
   for (const Cell &cell : {first, fresh(7), fresh(7), fresh(0)})
-    queueClick(control("picpFeld"), middleOf(cell));
+    queueShot(cell);
   Robot::onDialog([](QDialog &topTen) { topTen.close(); });
-  queueClick(control("keyTop10"), {45, 30});
-  for (int i = 0; i < 20; ++i)
-    QCoreApplication::processEvents();
-
-  Log log = sounds(sound.log);
+  queueClick("keyTop10", {45, 30});
+  letAllRun();
+  Log log = sounds();
   ASSERT_EQ(log.size(), 9u);
   log[4].erase(0, log[4].find("wait")); // whether the field was painted in between
   EXPECT_EQ(log, (Log{"LC wait Versenkt", "reply", "LC wait Versenkt", "reply", "wait Doppelt",
@@ -88,47 +86,38 @@ TEST_F(Battle, QueuedPressesDoNotNest) {
 }
 
 TEST_F(Battle, AQueuedAccessKeyWaitsForTheReply) {
-  startBattle(1);
   window->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   sound.log.clear();
-  queueClick(control("picpFeld"), middleOf(fresh(8)));
+  queueShot(fresh(8));
   for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
     QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
         window->windowHandle(), type, Qt::Key_A, Qt::AltModifier, "a");
-  bool asked = false;
+  Log heard; // before the question
   Robot::onDialog([&](QDialog &question) {
-    asked = true;
-    EXPECT_EQ(sounds(sound.log), (Log{"LC wait Versenkt", "reply"}));
+    heard = sounds();
     question.close();
   });
-  for (int i = 0; i < 20; ++i)
-    QCoreApplication::processEvents();
-  EXPECT_TRUE(asked);
+  letAllRun();
+  EXPECT_EQ(heard, (Log{"LC wait Versenkt", "reply"}));
 }
 
 TEST_F(Battle, ACloseWaitsForNoQueuedPress) {
-  startBattle(1);
-  for (const Cell &cell : {fresh(1), fresh(2), fresh(3)})
-    queueClick(control("picpFeld"), middleOf(cell));
+  for (const int BootID : {1, 2, 3})
+    queueShot(fresh(BootID));
   QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::AsynchronousDelivery>(
       window->windowHandle());
-  for (int i = 0; i < 20; ++i)
-    QCoreApplication::processEvents();
+  letAllRun();
   EXPECT_EQ(sound.log, Log{"start silence"}) << "not even the first turn goes on";
 }
 
-TEST_F(Battle, SoundOffKeepsThePaceFromTheNextSoundOn) {
-  startBattle(1);
-  const std::string board = window->grid()->toText();
+TEST_F(Battle, SoundOffKeepsThePaceAndAnotherSizeWaitsForTheNextStart) {
   Robot::onDialog([](QDialog &options) {
-    Robot::click(Robot::control(options, "chkSound"));
-    Robot::click(Robot::control(options, "optSize2"));
-    Robot::click(Robot::control(options, "cmdÜbernehmen"));
+    for (const char *name : {"chkSound", "optSize2", "cmdÜbernehmen"})
+      Robot::click(Robot::control(options, name));
   });
   robot->command("keyOptionen");
-  EXPECT_EQ(store.values.value("Korvel/Options/StdSize"), "3");
-  EXPECT_EQ(window->grid()->toText(), board) << "the new size waits for the next start";
+  EXPECT_EQ(window->grid()->Size(), 1);
   robot->press(fresh(0));
   EXPECT_EQ(sound.log, Log{"sleep 348"});
   open();
