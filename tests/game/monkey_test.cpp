@@ -54,7 +54,7 @@ struct Monkey : Stage {
         answer(*modal);
         check(nullptr);
         busy_ = before;
-      } else if (!modal && window->grid() && any(boats_ != boats() ? 40 : 800) == 0) {
+      } else if (!modal && window->grid() && any(boats_ != boats() ? 60 : 1200) == 0) {
         window->close();
       }
     });

@@ -43,17 +43,18 @@ TEST_F(Window, NewGameTakesNameAndSizeAndCancelNothing) {
 }
 
 TEST_F(Window, LeavingAsksFirst) {
-  Robot::onDialog([](QDialog &dialog) {
-    EXPECT_EQ(Robot::control<QLabel>(dialog, "lblMeldung").text(),
-              "\r\nWillst Du das Spiel wirklich beenden?");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  QString question;
+  Robot::onDialog([&](QDialog &dialog) {
+    question = Robot::control<QLabel>(dialog, "lblMeldung").text();
     Robot::click(Robot::control(dialog, "cmdAbbruch"));
   });
-  robot->command("keyEnde");
+  QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier); // at once, not during a later turn
+  EXPECT_EQ(question, "\r\nWillst Du das Spiel wirklich beenden?");
   EXPECT_TRUE(window->isVisible());
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   Robot::answer("cmdOK");
-  QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier);
-  EXPECT_FALSE(window->isVisible()) << "the access key acts at once, not during a later turn";
+  robot->command("keyEnde");
+  EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(sound.log, Log{"start silence"});
 }
 
