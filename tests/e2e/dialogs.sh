@@ -26,8 +26,13 @@ press dialog 42 122 330 122 150 198 # sound on, size 3, Übernehmen
 poll 30 stored "Help=0 Sound=1 StdSize=3" || fail "the store after taking over"
 press_and_close version >"$tmp/version"
 await_end "taking over"
-start
+start SDL_AUDIODRIVER=disk SDL_DISKAUDIOFILE="$tmp/heard"
 poll 30 is_size_3 || fail "expected fields of size 3"
+press main 225 31 # the top ten, with its jingle
+await_window dialog 300x381 ''
+poll 30 grep -qa '[^[:cntrl:]]' "$tmp/heard" || fail "expected to hear something"
+press dialog 150 30
+await_gone
 
 # Names are completed, what a dead key composes too.
 printf 'Anna\r\nJulia\r\n\xc9mile\r\n' >"$tmp/Combo.txt"

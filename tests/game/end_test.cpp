@@ -22,6 +22,7 @@ struct End : Stage {
 
 TEST_F(End, HumanIsFiledThenCelebratedThenShown) {
   startBattle(1);
+  globals.score.EnterScore(2, "Anna", 50);
   Robot::onDialog([&](QDialog &end) {
     EXPECT_EQ(globals.score.row(1, 1), (Score::Row{"Jörg", "17"})) << "filed before it is shown";
     EXPECT_EQ(lastSounds(), (Log{"LC wait Versenkt", "start Sieg"})) << "no reply";
@@ -38,7 +39,7 @@ TEST_F(End, HumanIsFiledThenCelebratedThenShown) {
         EXPECT_EQ(color(topTen, "lblQuote1"), QColor(Qt::black));
       }
       Robot::click(Robot::control(topTen, "optSize1"));
-      EXPECT_EQ(text(topTen, "lblQuote0"), "?");
+      EXPECT_EQ(text(topTen, "lblQuote0"), "50 (58%)");
       EXPECT_EQ(color(topTen, "lblName0"), QColor(Qt::black)) << "a tab ends the blinking";
       EXPECT_FALSE(timer(topTen).isActive());
       Robot::click(Robot::control(topTen, "lblName3")); // almost anywhere closes

@@ -6,7 +6,9 @@
 #include "frmNeu.h"
 #include "frmOptions.h"
 #include "frmStart.h"
+#include "pictures.h"
 
+#include <QAbstractButton>
 #include <QScreen>
 
 namespace {
@@ -64,6 +66,14 @@ lblBeschriftung6..11 408,409 33x25|608,409 33x25 '6er|5er|4er|3er|2er|1er'
 lblpBoote0..5 64,428 33x25|264,428 33x25 '0|1|2|3'
 lblcBoote0..5 408,428 33x25|608,428 33x25 '0')");
   EXPECT_EQ(control("lblpBoote0").font().pixelSize(), 19);
+  for (const auto &[key, picture] : {std::pair("keyNew", "tb-neu"),
+                                     {"keyOptionen", "tb-optionen"},
+                                     {"keyTop10", "tb-top10"},
+                                     {"keyEnde", "tb-ende"},
+                                     {"keyHilfe", "tb-hilfe"}}) {
+    const QIcon icon = Robot::control<QAbstractButton>(*window, key).icon();
+    EXPECT_EQ(icon.pixmap(49, 40).toImage(), loadPicture(picture).toImage()) << key;
+  }
   newGame(3);
   measure(*window, R"(700x473 Korvel
 picpFeld 17,105 323x259

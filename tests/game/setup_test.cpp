@@ -1,6 +1,8 @@
 #include "Stage.h"
+#include "pictures.h"
 
 #include <QAbstractButton>
+#include <QWindow>
 
 namespace {
 
@@ -37,7 +39,7 @@ TEST_F(FleetSetup, BinIsRedWhileABoatIsInWork) {
   const auto expectAfter = [&](const Cell &press, bool inWork) {
     robot->press(press);
     EXPECT_EQ(bin.isEnabled(), inWork);
-    EXPECT_EQ(bin.picture().cacheKey(), globals.MuellIcon[inWork].cacheKey());
+    EXPECT_EQ(bin.picture().toImage(), loadPicture(inWork ? "muell-rot" : "muell-grau").toImage());
   };
   robot->press(QPoint(112, 112), Qt::RightButton); // does nothing
   expectAfter({1, 1}, true);
@@ -69,6 +71,8 @@ TEST_F(FleetSetup, WholeFleetIsAskedForAndMoves) {
     const Cell last = robot->setFleetButOne(draw);
     forget();
     Robot::onDialog([&](QDialog &dialog) {
+      EXPECT_TRUE(window->windowHandle()->flags() & Qt::WindowDoesNotAcceptFocus);
+      EXPECT_EQ(dialog.windowModality(), Qt::WindowModal) << "the help stays open to presses";
       EXPECT_EQ(sound.log, (Log{"start Boot", "LC wait Boot", "start Alle"}));
       EXPECT_EQ(Robot::control<QLabel>(dialog, "lblMeldung").text(),
                 "Alle Boote wurden gesetzt.\r\n\r\nBist Du mit der Aufstellung zufrieden?");
