@@ -58,6 +58,18 @@ TEST_F(Window, LeavingAsksFirst) {
   EXPECT_EQ(sound.log, Log{"start silence"});
 }
 
+TEST_F(Window, ACloseWhileNamesAreReadOpensNoNewGame) {
+  QFile names(globals.ComboPath);
+  ASSERT_TRUE(names.open(QIODevice::WriteOnly) && names.write("Anna\r\n"));
+  names.close();
+  QMetaObject::invokeMethod(
+      window.get(), [this] { window->close(); }, Qt::QueuedConnection);
+  bool opened = false;
+  Robot::onDialog([&](QDialog &dialog) { opened = dialog.close(); });
+  robot->command("keyNew");
+  EXPECT_FALSE(opened || window->grid());
+}
+
 TEST_F(Window, FleetThatCannotBeMadeEndsTheProgram) {
   struct : RandomDraw {
     double next() override { return 0; } // always a corner
