@@ -50,36 +50,32 @@ TEST_F(Battle, TurnPaintsThenWaitsThenReplies) {
 }
 
 // Presses that arrive while a turn lets events run stay queued: each is a whole turn of its own,
-// and a toolbar command waits as well.
-TEST_F(Battle, QueuedPressesDoNotNest) {
+// and commands wait as well, by mouse or by access key.
+TEST_F(Battle, QueuedInputDoesNotNest) {
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  forget();
+  const std::function<void(QDialog &)> closeAll = [&](QDialog &dialog) {
+    sound.log.push_back(dialog.metaObject()->className());
+    Robot::onDialog(closeAll);
+    dialog.close();
+  };
+  Robot::onDialog(closeAll);
   const Cell first = fresh(8); // sinks: events run twice in its turn
   for (const Cell &cell : {first, fresh(7), fresh(7), fresh(0)})
     queueShot(cell);
-  Robot::onDialog([](QDialog &topTen) { topTen.close(); });
   queueClick("keyTop10", {45, 30});
-  letAllRun();
-  Log log = sounds();
-  ASSERT_EQ(log.size(), 9u);
-  log[4].erase(0, log[4].find("wait")); // whether the field was painted in between
-  EXPECT_EQ(log, (Log{"LC wait Versenkt", "reply", "LC wait Versenkt", "reply", "wait Doppelt",
-                      "L wait Wasser", "reply", "start Top10", "start silence"}));
-}
-
-TEST_F(Battle, AQueuedAccessKeyWaitsForTheReply) {
-  window->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  sound.log.clear();
-  queueShot(fresh(8));
   for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
     QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
         window->windowHandle(), type, Qt::Key_A, Qt::AltModifier, "a");
-  Log heard; // before the question
-  Robot::onDialog([&](QDialog &question) {
-    heard = sounds();
-    question.close();
-  });
   letAllRun();
-  EXPECT_EQ(heard, (Log{"LC wait Versenkt", "reply"}));
+  Robot::onDialog([](QDialog &) {});
+  Log log = sounds();
+  ASSERT_EQ(log.size(), 11u);
+  log[4].erase(0, log[4].find("wait")); // whether the field was painted in between
+  EXPECT_EQ(log, (Log{"LC wait Versenkt", "reply", "LC wait Versenkt", "reply", "wait Doppelt",
+                      "L wait Wasser", "reply", "start Top10", "frmScore", "start silence",
+                      "frmMeldung"}));
 }
 
 TEST_F(Battle, ACloseWaitsForNoQueuedPress) {

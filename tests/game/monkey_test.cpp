@@ -22,6 +22,9 @@ struct Monkey : Stage {
     draw = ScriptedDraw(seed_);
     QApplication::setDoubleClickInterval(0); // no clock decides
     QApplication::setKeyboardInputInterval(0);
+    QFile names(folder.filePath("Combo.txt")); // events run while they are read
+    EXPECT_TRUE(names.open(QIODevice::WriteOnly) &&
+                names.write(QByteArray("Anna\r\n").repeated(99)));
     start();
     wake();
   }

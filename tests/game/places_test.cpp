@@ -11,28 +11,26 @@
 
 namespace {
 
-using Places = Stage;
-
 /// A control in a line: name, place in its window, size, text, tool tip. `optSize0..2` are three
 /// alike, of which the first and the last place are told and all the texts.
 QString describe(QWidget &window, const QString &row) {
   QString first = row.section("..", 0, 0), last = row.section("..", 1);
   const int from = first.back().digitValue(), to = last.isEmpty() ? from : last.toInt();
-  QString places, texts, tips;
-  const auto add = [](QString &all, const QString &text) {
-    all += all.isEmpty() ? text : all.endsWith(text) ? "" : '|' + text;
-  };
+  QStringList places, texts, tips;
   for (int i = from; i <= to; ++i) {
     auto &control =
-        Robot::control(window, last.isEmpty() ? first : first.chopped(1) + QString::number(i));
+        Robot::control(window, i == from ? first : first.chopped(1) + QString::number(i));
     const QPoint at = control.mapTo(&window, QPoint());
     if (i == from || i == to)
-      add(places,
-          QString::asprintf("%d,%d %dx%d", at.x(), at.y(), control.width(), control.height()));
-    add(texts, control.property("text").toString());
-    add(tips, control.toolTip());
+      places << QString::asprintf("%d,%d %dx%d", at.x(), at.y(), control.width(), control.height());
+    texts << control.property("text").toString();
+    tips << control.toolTip();
   }
-  return QString(row + ' ' + places + " '" + texts + "' '" + tips + "'").remove(" ''");
+  for (QStringList *list : {&places, &texts, &tips})
+    list->removeDuplicates();
+  return QString("%1 %2 '%3' '%4'")
+      .arg(row, places.join('|'), texts.join('|'), tips.join('|'))
+      .remove(" ''");
 }
 
 /// `table` begins with the size and the title of the window.
@@ -45,7 +43,7 @@ void measure(QWidget &window, const QString &table) {
     EXPECT_EQ(describe(window, line.section(' ', 0, 0)), line);
 }
 
-TEST_F(Places, AreThoseOfTheDesign) {
+TEST_F(Stage, HasEveryControlInItsPlace) {
   newGame(1);
   measure(*window, R"(700x473 Korvel
 keyNew 0,1 90x63 '&Neues Spiel' 'Neues Spiel beginnen.'

@@ -56,6 +56,12 @@ TEST_F(FleetSetup, BinIsRedWhileABoatIsInWork) {
   expectBin(false);
   EXPECT_TRUE(window->grid()->PBoote(1).hasPoints());
   robot->press(Cell{8, 8});
+  Robot::onDialog([](QDialog &dialog) {
+    EXPECT_TRUE(Robot::control<QAbstractButton>(dialog, "optSize0").isChecked()) << "the last size";
+    Robot::click(Robot::control(dialog, "optSize2"));
+    Robot::click(Robot::control(dialog, "cmdAbbruch"));
+  });
+  robot->command("keyNew"); // and changes nothing
   EXPECT_EQ(window->grid()->PBoote(2).cell(1), (Cell{8, 8})) << "the same boat, its first point";
 }
 

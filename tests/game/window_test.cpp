@@ -1,6 +1,5 @@
 #include "Stage.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
 #include <QTest>
@@ -28,20 +27,6 @@ TEST_F(Window, StartsIdleAndTellsOfADamagedFile) {
     EXPECT_EQ(other->isVisible(), other == window.get()) << "the splash has gone";
 }
 
-TEST_F(Window, NewGameTakesNameAndSizeAndCancelNothing) {
-  newGame(3);
-  EXPECT_EQ(Robot::control<QLabel>(*window, "lblName0").text(), "Jörg");
-  robot->press(Cell{1, 1});
-  Robot::onDialog([](QDialog &dialog) {
-    EXPECT_TRUE(Robot::control<QAbstractButton>(dialog, "optSize2").isChecked()) << "the last size";
-    Robot::click(Robot::control(dialog, "optSize0"));
-    Robot::click(Robot::control(dialog, "cmdAbbruch"));
-  });
-  robot->command("keyNew");
-  EXPECT_EQ(window->grid()->Size(), 3);
-  EXPECT_TRUE(window->grid()->PBoote(1).hasPoints()) << "the boat in work is still there";
-}
-
 TEST_F(Window, LeavingAsksFirst) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   QString question;
@@ -56,18 +41,6 @@ TEST_F(Window, LeavingAsksFirst) {
   robot->command("keyEnde");
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(sound.log, Log{"start silence"});
-}
-
-TEST_F(Window, ACloseWhileNamesAreReadOpensNoNewGame) {
-  QFile names(globals.ComboPath);
-  ASSERT_TRUE(names.open(QIODevice::WriteOnly) && names.write("Anna\r\n"));
-  names.close();
-  QMetaObject::invokeMethod(
-      window.get(), [this] { window->close(); }, Qt::QueuedConnection);
-  bool opened = false;
-  Robot::onDialog([&](QDialog &dialog) { opened = dialog.close(); });
-  robot->command("keyNew");
-  EXPECT_FALSE(opened || window->grid());
 }
 
 TEST_F(Window, FleetThatCannotBeMadeEndsTheProgram) {
