@@ -11,6 +11,8 @@
 
 namespace {
 
+using Places = Stage;
+
 /// A control in a line: name, place in its window, size, text, tool tip. `optSize0..2` are three
 /// alike, of which the first and the last place are told and all the texts.
 QString describe(QWidget &window, const QString &row) {
@@ -43,7 +45,7 @@ void measure(QWidget &window, const QString &table) {
     EXPECT_EQ(describe(window, line.section(' ', 0, 0)), line);
 }
 
-TEST_F(Stage, HasEveryControlInItsPlace) {
+TEST_F(Places, AreThoseOfTheDesign) {
   newGame(1);
   measure(*window, R"(700x473 Korvel
 keyNew 0,1 90x63 '&Neues Spiel' 'Neues Spiel beginnen.'
