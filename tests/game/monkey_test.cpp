@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int kNever = 24 * 3600 * 1000; // ms: the monkey ticks the timers itself
-
 struct Monkey : Stage {
   Monkey() : seed_(qEnvironmentVariable("KORVEL_SEED", "1").toUInt()), random_(seed_) {
     draw = ScriptedDraw(seed_);
@@ -30,18 +28,15 @@ struct Monkey : Stage {
   }
 
   int any(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
-  void tick(QTimer &timer) { QMetaObject::invokeMethod(&timer, "timeout"); }
+  bool plays() { return window->Modus() == frmHaupt::Setup || window->Modus() == frmHaupt::Battle; }
   BoatTexts boats() {
     return window->Modus() < frmHaupt::Battle ? BoatTexts() : window->grid()->BoatTable(2);
   }
-  bool plays() { return window->Modus() == frmHaupt::Setup || window->Modus() == frmHaupt::Battle; }
-  QTimer &timTTip() { return *window->findChild<QTimer *>("timTTip"); }
 
   void start() {
     ++starts_;
     open();
     sound.wording = nullptr; // bytes, without a look at the window
-    timTTip().setInterval(kNever);
   }
 
   /// Comes back wherever events run: in a dialog, and in the midst of the game's handlers, where it
@@ -50,53 +45,55 @@ struct Monkey : Stage {
     QTimer::singleShot(0, &here_, [this] {
       wake();
       QWidget *modal = QApplication::activeModalWidget();
-      if (modal && modal->isVisible() && modal != busy_) {
+      if (window->grid() && any(modal ? 600 : boats_ != boats() ? 60 : 1200) == 0) {
+        window->close();
+      } else if (modal && modal->isVisible() && modal != busy_) {
         QWidget *const before = std::exchange(busy_, modal);
         EXPECT_TRUE(window->grid()) << "without its game: " << modal->metaObject()->className();
-        answer(*modal);
+        act(*modal);
         check(nullptr);
         busy_ = before;
-      } else if (!modal && window->grid() && any(boats_ != boats() ? 60 : 1200) == 0) {
-        window->close();
       }
     });
   }
 
-  void mouse(QWidget &target, QPoint at, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(target.windowHandle(), button, {}, at);
-  }
-  void mouseAt(QWidget &control) {
-    mouse(*control.window(), control.mapTo(control.window(), control.rect().center()));
-  }
-  QPoint somewhere(const QWidget &target) { return {any(target.width()), any(target.height())}; }
-  void key(QWidget &target) {
-    const Qt::Key keys[] = {Qt::Key_Tab, Qt::Key_Space,     Qt::Key_Return, Qt::Key_Escape,
-                            Qt::Key_F1,  Qt::Key_Backspace, Qt::Key_A,      Qt::Key_N};
-    // With Alt in a dialog Qt would click a tenth of a second later.
-    const auto with = any(4) == 0 && &target == window.get() ? Qt::AltModifier : Qt::NoModifier;
-    QTest::keyClick(target.windowHandle(), keys[any(std::size(keys))], with);
-  }
-
-  void answer(QWidget &dialog) {
+  /// Does something in a window, the main window or a dialog.
+  void act(QWidget &in) {
     ++events_;
-    for (QTimer *timer : dialog.findChildren<QTimer *>()) {
-      timer->setInterval(kNever);
-      if (timer->isActive() && any(3) == 0)
-        tick(*timer);
+    const auto mouse = [&](QPoint at, Qt::MouseButton button) {
+      QTest::mouseClick(in.windowHandle(), button, {}, at);
+    };
+    for (QTimer *timer : in.findChildren<QTimer *>()) {
+      timer->setInterval(24 * 3600 * 1000); // only the monkey ticks it
+      if (timer->isActive() && any(9) == 0)
+        QMetaObject::invokeMethod(timer, "timeout");
     }
-    const auto buttons = dialog.findChildren<QAbstractButton *>();
-    auto *name = dialog.findChild<QComboBox *>();
-    const int what = HasFailure() ? 0 : any(16);
-    if (what == 0)
-      any(8) == 0 ? window->close() : dialog.close(); // by its frame
-    else if (what == 1 && name)
+    const QPoint somewhere(any(in.width()), any(in.height()));
+    auto *name = in.findChild<QComboBox *>();
+    const bool isMain = &in == window.get();
+    const int what = HasFailure() ? 0 : any(24);
+    if (what == 0 && (!isMain || any(60) == 0)) {
+      in.close(); // by its frame
+    } else if (what == 1 && name) {
       name->setEditText(QStringList{"", "Jörg", "Ж", QString(29, 'x')}[any(4)]);
-    else if (what < 4)
-      key(dialog);
-    else if (what < 6)
-      mouse(dialog, somewhere(dialog));
-    else
-      mouseAt(*buttons[any(static_cast<int>(buttons.size()))]);
+    } else if (what < 3) {
+      const Qt::Key keys[] = {Qt::Key_Tab, Qt::Key_Space,     Qt::Key_Return, Qt::Key_Escape,
+                              Qt::Key_F1,  Qt::Key_Backspace, Qt::Key_A,      Qt::Key_N};
+      // With Alt in a dialog Qt would click a tenth of a second later.
+      const auto with = isMain && any(4) == 0 ? Qt::AltModifier : Qt::NoModifier;
+      QTest::keyClick(in.windowHandle(), keys[any(std::size(keys))], with);
+    } else if (what == 3) {
+      QTest::mouseMove(in.windowHandle(), somewhere);
+    } else if (what < 6) {
+      mouse(somewhere, any(2) == 0 ? Qt::LeftButton : Qt::RightButton);
+    } else if (isMain && plays() && any(80) != 0) {
+      robot->press(target());
+    } else {
+      auto buttons = in.findChildren<QAbstractButton *>();
+      buttons.removeIf([](QWidget *button) { return !button->isVisible(); });
+      QWidget &button = *buttons[any(static_cast<int>(buttons.size()))];
+      mouse(button.mapTo(&in, button.rect().center()), Qt::LeftButton);
+    }
   }
 
   /// A cell that brings the game on, mostly.
@@ -113,24 +110,6 @@ struct Monkey : Stage {
     return setup ? randomPoint(grid, next, draw).value_or(cell) : cell;
   }
 
-  void act() {
-    ++events_;
-    const char *keys[] = {"keyNew", "keyOptionen", "keyTop10", "keyHilfe", "keyEnde", "imgMüll"};
-    const int what = any(24);
-    if (any(plays() ? 80 : 4) == 0)
-      mouseAt(control(keys[plays() || any(2) == 0 ? any(6) : 0]));
-    else if (what == 0)
-      mouse(*window, somewhere(*window), any(2) == 0 ? Qt::LeftButton : Qt::RightButton);
-    else if (what == 1)
-      QTest::mouseMove(window->windowHandle(), somewhere(*window));
-    else if (what == 2)
-      any(4) == 0 ? key(*window) : QCoreApplication::processEvents();
-    else if (what == 3)
-      tick(timTTip());
-    else if (plays())
-      robot->press(target());
-  }
-
   /// `outermost` is the window where neither a handler nor a dialog is open.
   void check(const QWidget *outermost) {
     SCOPED_TRACE("seed " + std::to_string(seed_) + ", event " + std::to_string(events_));
@@ -143,7 +122,7 @@ struct Monkey : Stage {
                   widget->windowType() == Qt::ToolTip)
           << "left over: " << widget->metaObject()->className();
     for (const QTimer *timer : window->findChildren<QTimer *>())
-      EXPECT_TRUE(!timer->isActive() || (timer == &timTTip() && window->grid()))
+      EXPECT_TRUE(!timer->isActive() || (timer->objectName() == "timTTip" && window->grid()))
           << "left running: " << timer->objectName().toStdString();
     EXPECT_LE(window->findChildren<QDialog *>().size(), window->grid() ? 1 : 0);
     EXPECT_TRUE(window->grid() || globals.settings.Sound == 0 || sound.log.back() == "start 0")
@@ -180,7 +159,6 @@ struct Monkey : Stage {
     for (const char *name : {"keyNew", "keyOptionen", "keyHilfe", "imgMüll", "picpFeld"})
       Robot::click(control(name));
     QTest::keyClick(window.get(), Qt::Key_F1);
-    tick(timTTip());
     QCoreApplication::processEvents();
     EXPECT_EQ(seen(), before) << "something happens behind the end";
   }
@@ -196,7 +174,7 @@ struct Monkey : Stage {
 TEST_F(Monkey, FindsNothingBroken) {
   const int most = qEnvironmentVariable("KORVEL_EVENTS", "8000").toInt();
   while (events_ < most && !HasFailure()) {
-    act();
+    act(*window);
     check(window.get());
     if (!window->grid()) {
       checkEnded();
