@@ -30,7 +30,9 @@ struct Battle : Stage {
       QWindowSystemInterface::handleMouseEvent<QWindowSystemInterface::AsynchronousDelivery>(
           handle, point, handle->mapToGlobal(point), state, button, type);
   }
-  void queueShot(const Cell &cell) { queueClick("picpFeld", {25 * cell.X - 12, 25 * cell.Y - 12}); }
+  void queueShot(int BootID) {
+    queueClick("picpFeld", QPoint(25 * fresh(BootID).X, 25 * fresh(BootID).Y) - QPoint(12, 12));
+  }
   static void letAllRun() {
     for (int i = 0; i < 20; ++i)
       QCoreApplication::processEvents();
@@ -61,9 +63,8 @@ TEST_F(Battle, QueuedInputDoesNotNest) {
     dialog.close();
   };
   Robot::onDialog(closeAll);
-  const Cell first = fresh(8); // sinks: events run twice in its turn
-  for (const Cell &cell : {first, fresh(7), fresh(7), fresh(0)})
-    queueShot(cell);
+  for (const int BootID : {8, 7, 7, 0}) // a boat of one cell sinks: events run twice in its turn
+    queueShot(BootID);
   queueClick("keyTop10", {45, 30});
   for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
     QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
@@ -80,7 +81,7 @@ TEST_F(Battle, QueuedInputDoesNotNest) {
 
 TEST_F(Battle, ACloseWaitsForNoQueuedPress) {
   for (const int BootID : {1, 2, 3})
-    queueShot(fresh(BootID));
+    queueShot(BootID);
   QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::AsynchronousDelivery>(
       window->windowHandle());
   letAllRun();

@@ -69,11 +69,6 @@ lblcBoote0..5 408,428 33x25|608,428 33x25 '0')");
 picpFeld 17,105 323x259
 lblName0..1 17,86 323x19|361,86 323x19 'Jörg|Computer'
 imgMüll 308,366 32x32 'Löscht das aktuelle Boot!')");
-  newGame(2);
-  measure(*window, R"(700x473 Korvel
-picpFeld 34,119 288x231
-lblName0..1 34,100 288x19|378,100 288x19 'Jörg|Computer'
-imgMüll 290,352 32x32 'Löscht das aktuelle Boot!')");
   measure(*std::make_unique<frmNeu>(window.get(), 2, "", "", nullptr), R"(284x203 Neues Spiel
 lblName 56,16 121x17 'Name des Spielers:'
 cboName 56,32 161x24 'Gib hier Deinen Namen ein.'
