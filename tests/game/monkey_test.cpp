@@ -45,7 +45,7 @@ struct Monkey : Stage {
     QTimer::singleShot(0, &here_, [this] {
       wake();
       QWidget *modal = QApplication::activeModalWidget();
-      if (window->grid() && any(modal ? 600 : boats_ != boats() ? 60 : 1200) == 0) {
+      if (window->grid() && any(modal ? 600 : boats_ != boats() ? 15 : 1500) == 0) {
         window->close();
       } else if (modal && modal->isVisible() && modal != busy_) {
         QWidget *const before = std::exchange(busy_, modal);
@@ -86,12 +86,14 @@ struct Monkey : Stage {
       QTest::mouseMove(in.windowHandle(), somewhere);
     } else if (what < 6) {
       mouse(somewhere, any(2) == 0 ? Qt::LeftButton : Qt::RightButton);
-    } else if (isMain && plays() && any(80) != 0) {
+    } else if (isMain && plays() && any(120) != 0) {
       robot->press(target());
     } else {
       auto buttons = in.findChildren<QAbstractButton *>();
       buttons.removeIf([](QWidget *button) { return !button->isVisible(); });
-      QWidget &button = *buttons[any(static_cast<int>(buttons.size()))];
+      QWidget &button = isMain && !plays() && any(2) == 0
+                            ? control("keyNew")
+                            : *buttons[any(static_cast<int>(buttons.size()))];
       mouse(button.mapTo(&in, button.rect().center()), Qt::LeftButton);
     }
   }
