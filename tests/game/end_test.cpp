@@ -74,7 +74,6 @@ TEST_F(End, ComputerEntersTheSameListAndMayFindNoPlace) {
       Robot::click(Robot::control(end, "cmdJa"));
     });
     letComputerWin();
-    EXPECT_EQ(window->grid()->Treffer, 0);
   }
   startBattle(1);
   Robot::onDialog([&](QDialog &end) {
@@ -133,6 +132,35 @@ TEST_F(End, ClearingAsksOverTheHiddenTopTenWhichComesAgain) {
   EXPECT_EQ(sound.log.back(), "start silence");
   for (const QWidget *widget : QApplication::topLevelWidgets())
     EXPECT_FALSE(widget->isVisible()) << widget->metaObject()->className();
+}
+
+// The window is closed at each run of events between the press that completes a fleet or ends a
+// game and the dialog that follows.
+TEST_F(End, MayBeClosedAtAnyMoment) {
+  for (int i = 0; i < 24; ++i) {
+    open();
+    const int deed = i % 3;
+    deed == 0 ? newGame(1) : startBattle(1);
+    const Cell last = deed == 0 ? robot->setFleetButOne(draw) : Cell();
+    int runs = i / 3;
+    QTimer wake; // at each run of events
+    QObject::connect(&wake, &QTimer::timeout, [&] {
+      BoatTexts boats = window->grid() ? window->grid()->BoatTable(window->Modus()) : BoatTexts();
+      if (deed == 0)
+        boats[1] = {}; // the computer's are not counted yet
+      if (winnerOf(boats) != 0 && --runs < 0)
+        window->close();
+    });
+    wake.start(0);
+    Robot::onDialog([&](QDialog &dialog) {
+      EXPECT_TRUE(window->grid()) << "a dialog without its game";
+      if (!window->grid())
+        dialog.close();
+    });
+    deed == 0 ? robot->press(last) : deed == 1 ? winAsHuman() : letComputerWin();
+    EXPECT_FALSE(window->grid());
+    EXPECT_EQ(sound.log.back(), "start silence") << "press " << deed << ", run " << i / 3;
+  }
 }
 
 } // namespace

@@ -135,6 +135,7 @@ struct Monkey : Stage {
     const auto mode = window->Modus();
     EXPECT_EQ(grid.brokenInvariant(), std::nullopt);
     EXPECT_EQ(control("picpFeld").isEnabled(), plays());
+    EXPECT_TRUE(grid.Treffer == 0 || mode == frmHaupt::Battle);
     std::vector<QString> table;
     for (const auto &side : grid.BoatTable(std::min(mode, frmHaupt::Battle)))
       for (const std::string &text : side)

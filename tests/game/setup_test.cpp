@@ -39,7 +39,7 @@ TEST_F(FleetSetup, BinIsRedWhileABoatIsInWork) {
     EXPECT_EQ(bin.isEnabled(), inWork);
     EXPECT_EQ(bin.picture().cacheKey(), globals.MuellIcon[inWork].cacheKey());
   };
-  robot->press(QPoint(12, 12), Qt::RightButton); // does nothing
+  robot->press(QPoint(112, 112), Qt::RightButton); // does nothing
   expectAfter({1, 1}, true);
   expectAfter({3, 1}, true); // nothing, as it touches no point of the boat
   expectAfter({2, 1}, true);
