@@ -33,6 +33,10 @@ struct Battle : Stage {
   void queueShot(int BootID) {
     queueClick("picpFeld", QPoint(25 * fresh(BootID).X, 25 * fresh(BootID).Y) - QPoint(12, 12));
   }
+  void queueClose() {
+    QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::AsynchronousDelivery>(
+        window->windowHandle());
+  }
   static void letAllRun() {
     for (int i = 0; i < 20; ++i)
       QCoreApplication::processEvents();
@@ -79,13 +83,29 @@ TEST_F(Battle, QueuedInputDoesNotNest) {
                       "frmMeldung"}));
 }
 
-TEST_F(Battle, ACloseWaitsForNoQueuedPress) {
+TEST_F(Battle, ACloseWaitsForNoQueuedInput) {
   for (const int BootID : {1, 2, 3})
     queueShot(BootID);
-  QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::AsynchronousDelivery>(
-      window->windowHandle());
+  queueClose();
   letAllRun();
   EXPECT_EQ(sound.log, Log{"start silence"}) << "not even the first turn goes on";
+
+  open();
+  startBattle(1);
+  Robot::onDialog([](QDialog &topTen) {
+    ADD_FAILURE() << "a command goes before a close that came with it";
+    topTen.close();
+  });
+  sound.wording = [&](const std::string &call, const Klang &) {
+    if (call == "wait") {
+      queueClick("keyTop10", {45, 30});
+      queueClose();
+    }
+    return call;
+  };
+  queueShot(0);
+  letAllRun();
+  EXPECT_EQ(window->grid(), nullptr);
 }
 
 TEST_F(Battle, SoundOffKeepsThePaceAndAnotherSizeWaitsForTheNextStart) {
