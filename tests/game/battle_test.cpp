@@ -103,7 +103,7 @@ TEST_F(Battle, ACloseWaitsForNoQueuedInput) {
     }
     return call;
   };
-  queueShot(0);
+  robot->press(fresh(0));
   letAllRun();
   EXPECT_EQ(window->grid(), nullptr);
 }
