@@ -41,6 +41,7 @@ TEST_F(ScoreTest, ResultsToTheByte) {
   EXPECT_EQ(score.EnterScore(2, "Jörg", 30), 1) << "the newer of two equal results";
   EXPECT_EQ(read(file), empty.substr(0, 600) + row("J\xF6rg", "30") + row("A", "30") +
                             row(std::string(28, 'n'), "35") + empty.substr(780));
+  EXPECT_EQ(score.EnterScore(3, "A", 1000), 1) << "an unoccupied row takes that many";
   EXPECT_EQ(score.LoadScore(), Score::Loaded::whole);
 }
 
