@@ -131,11 +131,11 @@ def files():
     expect((root / "other").read_bytes() == WHOLE + b"behind", "what comes after is lost")
 
 
-def await_waiting(game, file):
+def await_waiting(game, file, held):
     """Until a game has the file open for so long that it must be waiting there."""
-    seen, before = 0, file.read_bytes()
+    seen = 0
     while seen < 100:
-        expect(game.poll() is None and file.read_bytes() == before, "a game does not wait")
+        expect(game.poll() is None and file.read_bytes() == held, "a game does not wait")
         try:
             links = list(Path(f"/proc/{game.pid}/fd").iterdir())
             seen = seen + 1 if any(link.resolve() == file for link in links) else 0
@@ -150,7 +150,7 @@ def start_during_save(file):
         fcntl.flock(saver, fcntl.LOCK_EX)
         saver.write(new[:900])
         reader = subprocess.Popen([scores, file], stdout=subprocess.PIPE)
-        await_waiting(reader, file)
+        await_waiting(reader, file, new[:900] + RESET[900:])
         saver.write(new[900:])
     lines = reader.communicate(timeout=60)[0].decode().splitlines()
     expect(lines[10:20] == [f"2 20 B{n}" for n in range(29, 0, -3)], "read", lines)
@@ -159,11 +159,12 @@ def start_during_save(file):
 def save_during_start(file):
     file.write_bytes(RESET)
     game = start(file)
-    file.write_bytes(table("B", 30))  # of another game; the one that saves last wins
+    other = table("B", 30)  # saved by another game; the one that saves last wins
+    file.write_bytes(other)
     with file.open("rb", buffering=0) as reader:
         fcntl.flock(reader, fcntl.LOCK_SH)
         game.stdin.write(results("A", 1))
-        await_waiting(game, file)
+        await_waiting(game, file, other)
         expect(game.stdout.readline() == b"1\n", "a held file keeps a game from saving")
     expect(file.read_bytes() == WHOLE, "the save that waited is lost")
 
