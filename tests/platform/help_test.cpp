@@ -30,7 +30,7 @@ TEST(Help, OneWalkThroughTheBook) {
     return url.hasFragment() ? content(url).contains(mark) : !content(url).isEmpty();
   };
   ASSERT_TRUE(QTest::qWaitFor([&] { return contents.currentIndex().row() == 0; }));
-  QStringList pages;
+  QSet<QString> pages;
   for (int row = 0; row < contents.model()->rowCount(); ++row) {
     emit contents.clicked(contents.model()->index(row, 0));
     EXPECT_EQ(contents.currentIndex().row(), row);

@@ -18,10 +18,7 @@ struct PictureBoxTest : testing::Test {
   PictureBox box{sprites, &window};
 
   PictureBoxTest() {
-    window.resize(400, 320);
-    box.move(20, 10);
-    box.setWidth(253);
-    box.setHeight(203);
+    box.setGeometry(20, 10, 253, 203);
     box.clear();
     window.show();
   }
@@ -41,7 +38,6 @@ TEST_F(PictureBoxTest, DrawsExactlyThePixelsAskedForInsideABlackBorder) {
   painter.fillRect(250, 2, 1, 199, Qt::blue);
   box.filledBox(3, 7, 5, 9, Colour::blue);
   painter.fillRect(3, 7, 3, 3, Qt::blue);
-  box.filledBox(9, 9, 3, 3, Colour::black); // inverted, so nothing
   const char *const names[] = {"wasser", "boot", "daneben", "treffer", "versenkt"};
   for (int i = 0; i < 5; ++i) {
     const QImage cell = loadImage(QString(names[i]) + "@2x");
@@ -70,10 +66,8 @@ TEST_F(PictureBoxTest, PressesCarryPixelsOfTheDrawingArea) {
 }
 
 TEST(Pictures, AreThoseOfTheirFilesAndTwiceAsLargeForDenseScreens) {
-  for (const QFileInfo &drawing : QDir(KORVEL_PICTURES).entryInfoList({"*.svg"})) {
+  for (const QFileInfo &drawing : QDir(KORVEL_PICTURES).entryInfoList({"[!k]*.svg"})) {
     const QString name = drawing.baseName();
-    if (name.startsWith("korvel")) // the icon
-      continue;
     for (const QString &file : {name, name + "@2x"}) {
       const QImage picture = loadImage(file);
       EXPECT_EQ(picture, QImage(KORVEL_PICTURES "/" + file).convertToFormat(picture.format()));
