@@ -68,9 +68,8 @@ TEST_F(SdlSoundTest, ANewSoundCutsTheOneBeforeAndAnEmptyOneStops) {
   timer.start();
   sound.playToEnd(tone(200, 0x23));
   EXPECT_GE(timer.elapsed(), 200);
-  EXPECT_TRUE(hears(0x23)); // well before a minute is over
   sound.start(tone(60'000, 0x34));
-  EXPECT_TRUE(hears(0x34));
+  EXPECT_TRUE(hears(0x34)); // well before a minute is over
   sound.start({});
   EXPECT_TRUE(QTest::qWaitFor([&] { return heard().endsWith(QByteArray(4096, 0)); }, 30'000));
   const QByteArray all = heard();
@@ -87,7 +86,6 @@ TEST_F(SdlSoundTest, NoDeviceAndAStalledOneHoldNothingUp) {
     qputenv("SDL_AUDIODRIVER", driver);
     SdlSound sound;
     EXPECT_FALSE(sound.open());
-    sound.start(tone(20, 0x12));
     EXPECT_FALSE(sound.playToEnd(tone(60'000, 0x12)));
   }
   alarm(0);
