@@ -86,8 +86,8 @@ bool frmHaupt::eventFilter(QObject *watched, QEvent *event) {
     return QWidget::eventFilter(watched, event);
 
   if (watched == &tbToolbar) {
-    // Events run when this returns. Let run here, those that follow a press would overtake it, as Qt
-    // sends the move to its place first.
+    // Events run when this returns. Let run here, those that follow a press would overtake it, as
+    // Qt sends the move to its place first.
     if (isMove && ToolTip_)
       TTip_.setActive(false);
     return true;
