@@ -14,12 +14,9 @@
 
 namespace {
 
-TEST(Sounds, OfAllFormatsKeepTheirLength) {
-  for (const auto &[name, seconds] :
-       {std::pair("muell", 1.32), {"boot", 0.75}, {"wasser", 0.87}, {"verloren", 2.56}}) {
-    const qsizetype frames = SdlSound::decoded(loadSound(name)).size() / 4;
-    EXPECT_NEAR(static_cast<double>(frames) / 44100, seconds, 0.02) << name;
-  }
+TEST(Sounds, KeepTheirLengthInTheFormatOfTheDevice) {
+  const QByteArray pcm = SdlSound::decoded(loadSound("doppelt")); // compressed, mono
+  EXPECT_NEAR(static_cast<double>(pcm.size()) / 4 / 44100, 0.97, 0.02);
 }
 
 TEST(SoundPlayer, WhatIsNotHeardCostsItsTimeStill) {
