@@ -129,6 +129,8 @@ public:
   bool OnlySinglesLeft() const;
   /// The computer's whole turn. Never gives `repeated`. Some boat of the human must be afloat.
   ShotCode ComputerShoot();
+  /// Where the computer has shot last.
+  Cell LastShot() const { return LastShot_; }
 
   /// The first thing that is wrong with the board, if any, in words and with the position. Debug
   /// builds look after every operation and stop if something is wrong.
@@ -175,4 +177,5 @@ private:
   Field PFeld_;
   std::vector<tBoot> CBoote_;
   std::vector<tBoot> PBoote_;
+  Cell LastShot_{};
 };

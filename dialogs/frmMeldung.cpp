@@ -10,10 +10,15 @@ frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, "") {
         {serifFont(11.25), palette().color(QPalette::WindowText), kLightBlue, true, true});
   lblMeldung_.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 
-  auto *cmdOK = new BlueButton(picHintergrund, "cmdOK", {88, 96, 73, 25}, "&Ja");
+  cmdOK_ = new BlueButton(picHintergrund, "cmdOK", {88, 96, 73, 25}, "&Ja");
   auto *cmdAbbruch = new BlueButton(picHintergrund, "cmdAbbruch", {168, 96, 73, 25}, "&Nein");
-  connect(cmdOK, &QPushButton::clicked, this, [this] { setErgebnis(true); });
+  connect(cmdOK_, &QPushButton::clicked, this, [this] { setErgebnis(true); });
   connect(cmdAbbruch, &QPushButton::clicked, this, [this] { setErgebnis(false); });
+}
+
+void frmMeldung::setText(const QString &text) {
+  lblMeldung_.setText(text);
+  cmdOK_->setAccessibleDescription(text); // readers say it with the first button
 }
 
 void frmMeldung::setErgebnis(bool answer) {

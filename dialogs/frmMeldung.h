@@ -9,7 +9,7 @@ class frmMeldung : public Dialog {
 public:
   explicit frmMeldung(QWidget *main);
 
-  void setText(const QString &text) { lblMeldung_.setText(text); }
+  void setText(const QString &text);
 
   /// The answer, readable after the box has closed. Closing it through its frame or with Escape
   /// counts as Nein.
@@ -19,6 +19,7 @@ public:
 
 private:
   QLabel lblMeldung_;
+  BlueButton *cmdOK_;
   bool Ergebnis_ = false;
 };
 

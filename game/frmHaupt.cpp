@@ -1,6 +1,7 @@
 #include "frmHaupt.h"
 
 #include "EventPump.h"
+#include "announce.h"
 #include "frmMeldung.h"
 #include "frmOptions.h"
 #include "pictures.h"
@@ -80,6 +81,7 @@ frmHaupt::frmHaupt(Globals &globals, const Services &services)
       globals_(globals), services_(services), player_(services.sound, globals.settings.Sound),
       picpFeld(globals.sprites, &picHinten), piccFeld(globals.sprites, &picHinten),
       Grid(std::make_unique<clsGrid>(services.draw)) {
+  setRole(*this, QAccessible::Window);
   setWindowTitle("Korvel");
   setFont(serifFont(14.25));
   setFixedSize(kClient);
@@ -106,6 +108,8 @@ void frmHaupt::buildToolbar() {
   coolbar->setGeometry(0, 0, kClient.width(), kToolbarHeight);
   coolbar->lower();
   tbToolbar.setObjectName("tbToolbar");
+  setRole(tbToolbar, QAccessible::ToolBar);
+  tbToolbar.setAccessibleName("Befehle");
   tbToolbar.setGeometry(0, 0, kClient.width(), kToolbarHeight);
   for (const Command &command : kCommands)
     tbToolbar.addButton(command.key, command.caption, command.picture, command.toolTip);
@@ -122,7 +126,7 @@ void frmHaupt::buildFields() {
   picpFeld.setCursor(loadPointer("fadenkreuz"));
   connect(&picpFeld, &PictureBox::pressed, this, &frmHaupt::picpFeld_MouseDown);
   for (PictureBox *field : {&picpFeld, &piccFeld})
-    field->describe = [this, field](const QPoint &pixel) { return describeCell(*field, pixel); };
+    field->cells = cellsOf(*field);
   piccFeld.setObjectName("piccFeld");
   piccFeld.setAccessibleName("Rechtes Feld");
   piccFeld.setEnabled(false);
@@ -140,22 +144,6 @@ void frmHaupt::buildFields() {
   imgMüll.resize(kBin);
   imgMüll.setPicture(globals_.MuellIcon[0]);
   connect(&imgMüll, &ImageButton::clicked, this, &frmHaupt::imgMuell_Click);
-}
-
-// What screen readers say of the cell at a pixel: what is seen there, never more.
-QString frmHaupt::describeCell(const PictureBox &field, const QPoint &pixel) const {
-  constexpr std::array kWords{"Wasser", "Boot", "daneben", "Treffer", "versenkt"};
-  if (closed())
-    return {};
-  const auto cell =
-      Grid->geometry().cellAt(pixel.x(), pixel.y(), field.innerWidth(), field.innerHeight());
-  if (!cell)
-    return {};
-  const auto shown = Grid->Shown(field, cell->X, cell->Y);
-  return QString("Spalte %1, Zeile %2: %3")
-      .arg(cell->X)
-      .arg(cell->Y)
-      .arg(shown ? kWords[static_cast<std::size_t>(*shown)] : "Boot im Bau");
 }
 
 void frmHaupt::buildCounters() {
@@ -178,8 +166,6 @@ void frmHaupt::buildCounters() {
       lblBeschriftung->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 
       counters[i].setParent(&picHinten);
-      counters[i].setAccessibleDescription(
-          QString(group == 0 ? "Deine %1" : "%1 des Computers").arg(kClassNames[i]));
       counters[i].setObjectName(QString(group == 0 ? "lblpBoote%1" : "lblcBoote%1").arg(i));
       dress(counters[i], QRect({x, kCounterTop}, kCounter),
             {serifFont(14.25), windowText, kLightBlue, true});

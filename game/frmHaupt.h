@@ -65,7 +65,6 @@ private:
   void buildToolbar();
   void buildFields();
   void buildCounters();
-  QString describeCell(const PictureBox &field, const QPoint &pixel) const;
   void runCommand(const QString &key);
   void Form_Unload();
   void Grid_ChangePicSize();
@@ -94,7 +93,7 @@ private:
 
   // turn.cpp: a turn of the battle
   void takeTurn(const Cell &cell);
-  void computerReplies();
+  void computerReplies(const QString &shot);
 
   // end.cpp: the end of a game
   void humanWins();
@@ -110,6 +109,13 @@ private:
   void releaseHints();
   void moveHint(const QMouseEvent &event);
   void DoHilfe(HelpViewer::Entry entry);
+
+  // spoken.cpp: what screen readers get
+  CellTable cellsOf(const PictureBox &field) const;
+  QString describeCell(const PictureBox &field, const Cell &cell) const;
+  static QString inWords(const Cell &cell, ShotCode code, int length);
+  QString boatInWords(int BootID) const;
+  void say(const QString &text);
 
   Globals &globals_;
   const Services services_;

@@ -39,6 +39,7 @@ void frmHaupt::enterSetup() {
   showBin(false);
   imgMüll.show();
   UpdateBoote();
+  say("Zuerst " + boatInWords(boat_.BootID) + ".");
 }
 
 // Only the left field ever takes a press.
@@ -50,6 +51,9 @@ int frmHaupt::UpdateBoote() {
   for (std::size_t i = 0; i < lblpBoote.size(); ++i) {
     lblpBoote[i].setText(QString::fromStdString(table[0][i]));
     lblcBoote[i].setText(QString::fromStdString(table[1][i]));
+    lblpBoote[i].setAccessibleName(QString("Deine %1er: %2").arg(6 - i).arg(lblpBoote[i].text()));
+    lblcBoote[i].setAccessibleName(
+        QString("%1er des Computers: %2").arg(6 - i).arg(lblcBoote[i].text()));
   }
   return Modus_ == Battle ? winnerOf(table) : 0;
 }

@@ -4,11 +4,15 @@
 #include "frmMeldung.h"
 
 void frmHaupt::setPoint(const Cell &cell) {
-  if (!boat_.accepts(*Grid, cell.X, cell.Y))
+  if (!boat_.accepts(*Grid, cell.X, cell.Y)) {
+    say(cellName(cell) + " geht nicht.");
     return;
+  }
   showBin(true);
-  if (boat_.add(*Grid, cell.X, cell.Y))
+  if (boat_.add(*Grid, cell.X, cell.Y)) {
+    say(cellName(cell) + ", " + describeCell(picpFeld, cell) + ".");
     return;
+  }
 
   Grid->DrawBoat(boat_.BootID);
   player_.PlayWav(globals_.sounds.SndBoot, true);
@@ -16,8 +20,13 @@ void frmHaupt::setPoint(const Cell &cell) {
   if (!survivesEvents())
     return;
   showBin(false);
-  if (!boat_.next(*Grid))
+  const QString stands = boatInWords(boat_.BootID) + " steht.";
+  if (boat_.next(*Grid)) {
+    say(stands + " Als Nächstes " + boatInWords(boat_.BootID) + ".");
+  } else {
+    say(stands);
     fleetComplete();
+  }
 }
 
 void frmHaupt::fleetComplete() {
@@ -49,6 +58,7 @@ void frmHaupt::imgMuell_Click() {
   player_.PlayWav(globals_.sounds.SndMuell, true);
   boat_.discard(*Grid);
   showBin(false);
+  say(boatInWords(boat_.BootID) + " gelöscht.");
 }
 
 // The dustbin is red and takes clicks exactly while a boat is in work.

@@ -11,10 +11,14 @@ void frmHaupt::takeTurn(const Cell &cell) {
   if (!survivesEvents())
     return;
 
+  const int length =
+      code >= ShotCode::hit ? Grid->CBoote(Grid->CFeld()(cell.X, cell.Y, 1)).length() : 0;
+  const QString shot = "Du: " + inWords(cell, code, length);
   int winner = 0;
   switch (code) {
   case ShotCode::repeated:
     player_.PlayWav(globals_.sounds.SndDoppelt, false);
+    say(shot);
     return;
   case ShotCode::water:
     player_.PlayWav(globals_.sounds.SndWasser, false);
@@ -32,24 +36,35 @@ void frmHaupt::takeTurn(const Cell &cell) {
     player_.PlayWav(globals_.sounds.SndVersenkt, false);
     break;
   }
-  if (winner == 1)
+  if (winner == 1) {
+    say(shot + " Du hast gewonnen.");
     humanWins();
-  else
-    computerReplies();
+  } else {
+    computerReplies(shot);
+  }
 }
 
-void frmHaupt::computerReplies() {
+void frmHaupt::computerReplies(const QString &shot) {
   const ShotCode code = Grid->ComputerShoot();
+  const Cell cell = Grid->LastShot();
+  const int length =
+      code >= ShotCode::hit ? Grid->PBoote(Grid->PFeld()(cell.X, cell.Y, 1)).length() : 0;
+  const QString turn = shot + " Computer: " + inWords(cell, code, length);
   ++BombenZahl_[1];
   if (code != ShotCode::sunk) {
     player_.PlayWav(code == ShotCode::hit ? globals_.sounds.SndTreffer : globals_.sounds.SndWasser,
                     true);
+    say(turn);
     return;
   }
   const int winner = UpdateBoote();
   if (!survivesEvents())
     return;
   player_.PlayWav(globals_.sounds.SndVersenkt, true);
-  if (winner == 2)
-    computerWins();
+  if (winner != 2) {
+    say(turn);
+    return;
+  }
+  say(turn + " Der Computer hat gewonnen.");
+  computerWins();
 }

@@ -39,7 +39,8 @@ ShotCode clsGrid::ComputerShoot() {
     const auto b = drawn();
     std::swap(list[a], list[b]);
   }
-  const auto [X, Y] = list[drawn()];
+  LastShot_ = list[drawn()];
+  const auto [X, Y] = LastShot_;
 
   // 2. A miss.
   const int b = PFeld_(X, Y, 1);

@@ -1,5 +1,7 @@
 #include "HintServer.h"
 
+#include "announce.h"
+
 #include <QCursor>
 #include <QFontMetrics>
 #include <QPainter>
@@ -33,6 +35,7 @@ class Balloon : public QWidget {
 public:
   Balloon(QWidget &window, const QRect &area, const QFont &font) : QWidget(&window), area_(area) {
     setObjectName("balloon");
+    setRole(*this, QAccessible::Notification); // readers say its name when it comes up
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFont(font);
     hide();
@@ -43,7 +46,7 @@ public:
     hasIcon_ = icon == HintServer::kInformation;
     text_ = text;
     isBalloon_ = style == HintServer::kBalloon;
-    setAccessibleName(title + "\n" + text);
+    setAccessibleName(title + ": " + text);
     const QSize titleSize = QFontMetrics(titleFont()).size(0, title_);
     const QSize textSize = fontMetrics().size(0, text_);
     head_ = QSize(titleSize.width() + (hasIcon_ ? kIcon + kGap : 0),

@@ -2,11 +2,10 @@
 
 #include "pictures.h"
 
-#include <QAccessibleWidget>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
-
-#include <utility>
+#include <QWindow>
 
 namespace {
 
@@ -17,26 +16,6 @@ constexpr std::array kSpriteNames{"wasser", "boot", "daneben", "treffer", "verse
 
 QColor colourOf(Colour colour) {
   return colour == Colour::blue ? QColor(0, 0, 255) : QColor(Qt::black);
-}
-
-/// What a screen reader sees of a field. The description changes with the pointer.
-class AccessibleField : public QAccessibleWidget {
-public:
-  explicit AccessibleField(PictureBox &box)
-      : QAccessibleWidget(&box, QAccessible::Graphic), box_(box) {}
-
-  QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Description ? box_.seenUnderPointer()
-                                            : QAccessibleWidget::text(kind);
-  }
-
-private:
-  PictureBox &box_;
-};
-
-QAccessibleInterface *accessibleField(const QString &, QObject *object) {
-  auto *box = qobject_cast<PictureBox *>(object);
-  return box ? new AccessibleField(*box) : nullptr;
 }
 
 } // namespace
@@ -62,7 +41,7 @@ const QImage &Sprites::stretched(Picture picture, int width, int height) const {
 PictureBox::PictureBox(const Sprites &sprites, QWidget *parent)
     : QWidget(parent), sprites_(sprites) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  QAccessible::installFactory(accessibleField); // once, however often it is called
+  installAccessibleFields();
 }
 
 void PictureBox::clear() {
@@ -84,7 +63,6 @@ void PictureBox::line(int x1, int y1, int x2, int y2, Colour colour) {
 
 void PictureBox::filledBox(int x1, int y1, int x2, int y2, Colour colour) {
   fill(QRect(QPoint(x1, y1), QPoint(x2, y2)), colour);
-  tellReaders();
 }
 
 void PictureBox::fill(const QRect &area, Colour colour) {
@@ -100,32 +78,33 @@ void PictureBox::sprite(Picture picture, int x, int y, int width, int height) {
   painter.drawImage(QRect(x, y, width, height),
                     sprites_.stretched(picture, width * ratio, height * ratio));
   update(x + kBorder, y + kBorder, width, height);
-  tellReaders();
 }
 
-QString PictureBox::seenUnderPointer() const {
-  return pointer_ && describe ? describe(*pointer_) : QString();
+QRect PictureBox::placeOf(const Cell &cell) const {
+  return cells.place(cell).translated(kBorder, kBorder);
 }
 
-void PictureBox::setPointer(std::optional<QPoint> pixel) {
-  pointer_ = pixel;
-  tellReaders();
+// By way of the window, where a press waits while a turn is under way. Later, as what asks for it
+// waits for an answer.
+void PictureBox::press(const Cell &cell) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, cell] {
+        QWindow *handle = window()->windowHandle();
+        if (QApplication::activeModalWidget() || !handle)
+          return;
+        const QPointF place = mapTo(window(), placeOf(cell).center());
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+          QMouseEvent event(type, place, place, handle->mapToGlobal(place), Qt::LeftButton,
+                            type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
+          QApplication::sendEvent(handle, &event);
+        }
+      },
+      Qt::QueuedConnection);
 }
 
-void PictureBox::tellReaders() {
-  if (const QString now = seenUnderPointer(); std::exchange(told_, now) != now) {
-    QAccessibleEvent change(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&change);
-  }
-}
-
-// Here, because a disabled field gets no mouse events in its handlers.
 bool PictureBox::event(QEvent *event) {
-  if (event->type() == QEvent::MouseMove)
-    setPointer(static_cast<QMouseEvent *>(event)->pos() - QPoint(kBorder, kBorder));
-  else if (event->type() == QEvent::Leave)
-    setPointer(std::nullopt);
-  else if (event->type() == QEvent::WindowBlocked)
+  if (event->type() == QEvent::WindowBlocked)
     wasPressed_ = false;
   return QWidget::event(event);
 }

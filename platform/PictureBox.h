@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AccessibleField.h"
 #include "Surface.h"
 
 #include <QImage>
@@ -7,8 +8,6 @@
 #include <QWidget>
 
 #include <array>
-#include <functional>
-#include <optional>
 
 /// The five pictures of the cells, as the start-up loads them, and their stretched forms.
 class Sprites {
@@ -49,11 +48,12 @@ public:
 
   const QImage &content() const { return content_; }
 
-  /// Says in words what is seen at a pixel of the drawing area. Screen readers get it for the pixel
-  /// under the pointer, as the description of the box, and a notice when it changes.
-  std::function<QString(const QPoint &pixel)> describe;
-  /// What `describe` says now; empty if the pointer is elsewhere.
-  QString seenUnderPointer() const;
+  /// The field for screen readers; to be set before the box is shown.
+  CellTable cells;
+  /// Where a cell is, in pixels of the box.
+  QRect placeOf(const Cell &cell) const;
+  /// A press with the mouse on a cell, which waits its turn like any other.
+  void press(const Cell &cell);
 
 signals:
   /// A press on the box, in pixels of the drawing area; negative or beyond it on the border. The
@@ -68,13 +68,9 @@ protected:
 
 private:
   void fill(const QRect &area, Colour colour);
-  void setPointer(std::optional<QPoint> pixel);
-  void tellReaders();
 
   const Sprites &sprites_;
   QImage content_; ///< the drawing area
   int drawWidth_ = 1;
-  std::optional<QPoint> pointer_; ///< in the drawing area
-  QString told_;
   bool wasPressed_ = false; ///< since the last dialog
 };

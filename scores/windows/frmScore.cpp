@@ -112,6 +112,7 @@ void frmScore::buildTabs() {
 
 void frmScore::setPlatz(int Platz) {
   Platz_ = Platz;
+  nameRows();
   if (Platz > 0) {
     timBlinker_.start();
   } else {
@@ -135,6 +136,25 @@ void frmScore::ShowTable(int size) {
     const auto i = static_cast<std::size_t>(place - 1);
     lblName_[i]->setText(QString::fromStdString(row.name));
     lblQuote_[i]->setText(quote);
+  }
+  nameRows();
+}
+
+// What screen readers say of a row.
+void frmScore::nameRows() {
+  for (int place = 1; place <= kPlaces; ++place) {
+    const Score::Row &row = services_.score.row(size_, place);
+    const QString isNew = place == Platz_ ? "Neu auf " : "";
+    const QString result = row.bombs() > 0
+                               ? QString(", %1 Bomben, %2 %")
+                                     .arg(row.bombs())
+                                     .arg(clsGrid::FleetCells(size_) * 100 / row.bombs())
+                               : QString();
+    lblNr_[static_cast<std::size_t>(place - 1)]->setAccessibleName(
+        QString("%1Platz %2: %3%4")
+            .arg(isNew)
+            .arg(place)
+            .arg(QString::fromStdString(row.name), result));
   }
 }
 

@@ -44,6 +44,7 @@ private:
   void buildRows();
   void buildTabs();
   void ShowTable(int size);
+  void nameRows();
   void ResetColors() { setRowColors(0, kPlaces, Qt::black); }
   void setRowColors(int first, int count, const QColor &color);
   void blink();

@@ -28,9 +28,9 @@ frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
   Label1->setObjectName("Label1");
   dress(*Label1, {8, 160, 369, 17}, {small, Qt::white});
 
-  auto *cmdJa = new BlueButton(&picHinten_, "cmdJa", {112, 192, 73, 25}, "&Ja");
+  cmdJa_ = new BlueButton(&picHinten_, "cmdJa", {112, 192, 73, 25}, "&Ja");
   auto *cmdNein = new BlueButton(&picHinten_, "cmdNein", {192, 192, 73, 25}, "&Nein");
-  connect(cmdJa, &QPushButton::clicked, this, &frmSieg::showScores);
+  connect(cmdJa_, &QPushButton::clicked, this, &frmSieg::showScores);
   connect(cmdNein, &QPushButton::clicked, this, &QWidget::close);
 }
 
@@ -42,6 +42,12 @@ void frmSieg::setBild(int Bild, const QString &Bomben) {
   imgTitle_.setGeometry(QRect({(picHinten_.width() - size.width()) / 2, kBannerTop}, size));
   letEventsRun();
   lblBomben_.setText("Mit nur " + Bomben + " Wasserbomben!");
+}
+
+void frmSieg::setText(const QString &text) {
+  lblText_.setText(text);
+  cmdJa_->setAccessibleDescription(text + " " + lblBomben_.text() + " " +
+                                   "Möchtest Du die Highscore-Tabelle ansehen?");
 }
 
 void frmSieg::showScores() {

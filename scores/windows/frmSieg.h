@@ -11,7 +11,7 @@ class frmSieg : public Dialog {
 public:
   frmSieg(QWidget *main, const ScoreServices &services);
 
-  void setText(const QString &text) { lblText_.setText(text); }
+  void setText(const QString &text);
 
   /// 0 the human has won, 1 the computer, with `Bomben`, the digits of the winner's count. Lets
   /// events run.
@@ -29,4 +29,5 @@ private:
   QLabel imgTitle_{&picHinten_};
   QLabel lblText_{&picHinten_};
   QLabel lblBomben_{&picHinten_};
+  BlueButton *cmdJa_;
 };
