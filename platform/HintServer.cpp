@@ -46,7 +46,7 @@ public:
     hasIcon_ = icon == HintServer::kInformation;
     text_ = text;
     isBalloon_ = style == HintServer::kBalloon;
-    setAccessibleName(title + ": " + text);
+    setAccessibleName(title + "\n" + text);
     const QSize titleSize = QFontMetrics(titleFont()).size(0, title_);
     const QSize textSize = fontMetrics().size(0, text_);
     head_ = QSize(titleSize.width() + (hasIcon_ ? kIcon + kGap : 0),

@@ -27,6 +27,11 @@ xvfb               Xvfb
 xdotool            xdotool
 imagemagick        import
 python3            python3
+python3-gi         /usr/lib/python3/dist-packages/gi/__init__.py
+gir1.2-atspi-2.0   /usr/lib/*/girepository-1.0/Atspi-2.0.typelib
+at-spi2-core       /usr/share/dbus-1/services/org.a11y.Bus.service
+dbus               dbus-run-session
+xauth              xauth
 desktop-file-utils desktop-file-validate
 appstream          appstreamcli
 clang              clang++

@@ -4,11 +4,8 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
 
 #include <cmath>
-#include <private/qguiapplication_p.h>
 
 namespace {
 
@@ -85,27 +82,6 @@ TEST_F(Accessibility, EveryControlHasANameAVisibleFocusAndReadableTexts) {
     ASSERT_EQ(viewer.show(KORVEL_BOOK, entry), "");
     check(*viewer.window());
   }
-}
-
-TEST_F(Accessibility, FieldsTellTheCellUnderThePointerAsItLooks) {
-  startBattle(1);
-  const auto told = [&](const char *name, const Cell &cell) {
-    QTest::mouseMove(window->windowHandle(),
-                     field(name).mapTo(window.get(), QPoint(25 * cell.X - 12, 25 * cell.Y - 12)));
-    const QString place = QString("Spalte %1, Zeile %2: ").arg(cell.X).arg(cell.Y);
-    return read(field(name), QAccessible::Description).remove(place);
-  };
-  const Cell hidden = window->grid()->CBoote(1).cell(1);
-  EXPECT_EQ(told("piccFeld", window->grid()->PBoote(1).cell(1)), "Boot");
-  EXPECT_EQ(told("picpFeld", hidden), "Wasser");
-  static int changes = 0; // of which screen readers hear
-  QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
-  QAccessible::installUpdateHandler(
-      [](QAccessibleEvent *event) { changes += event->type() == QAccessible::DescriptionChanged; });
-  robot->press(hidden);
-  QAccessible::installUpdateHandler(nullptr);
-  EXPECT_EQ(told("picpFeld", hidden), "Treffer");
-  EXPECT_EQ(changes, 1);
 }
 
 } // namespace
