@@ -100,6 +100,7 @@ cmdAbbruch 194,186 73x25 '&Abbrechen' 'Dialog abbrechen')");
 lblMeldung 18,18 313x57
 cmdOK 90,98 73x25 '&Ja'
 cmdAbbruch 170,98 73x25 '&Nein')");
+  EXPECT_EQ(frmMeldung(window.get()).pos() - window->pos(), QPoint(173, 166)) << "not centred";
   frmStart start("1.0.5");
   EXPECT_EQ(start.geometry().center(), start.screen()->geometry().center());
   measure(start, R"(307x165
