@@ -139,6 +139,7 @@ void frmHaupt::buildFields() {
   lblName[1].setText("Computer");
 
   imgMüll.setObjectName("imgMüll");
+  setRole(imgMüll, QAccessible::Button);
   imgMüll.setAccessibleName("Mülleimer");
   imgMüll.setToolTip("Löscht das aktuelle Boot!");
   imgMüll.resize(kBin);

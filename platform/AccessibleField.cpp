@@ -12,7 +12,8 @@ namespace {
 /// table; on a board that has become smaller it is not valid.
 class AccessibleCell : public QAccessibleInterface,
                        public QAccessibleActionInterface,
-                       public QAccessibleTableCellInterface {
+                       public QAccessibleTableCellInterface,
+                       public QAccessibleTextInterface {
 public:
   AccessibleCell(PictureBox &box, const Cell &cell) : box_(box), cell_(cell) {}
 
@@ -49,6 +50,8 @@ public:
   void *interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::TableCellInterface)
       return static_cast<QAccessibleTableCellInterface *>(this);
+    if (type == QAccessible::TextInterface)
+      return static_cast<QAccessibleTextInterface *>(this);
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface *>(this)
                                                 : nullptr;
   }
@@ -71,7 +74,32 @@ public:
   bool isSelected() const override { return false; }
   QAccessibleInterface *table() const override { return parent(); }
 
+  // Orca reads a window line by line: of an object its text or, without one, its name. It asks for
+  // the length once and for the text whenever it reads, so that the length is always the same.
+  QString text(int from, int to) const override { return words().mid(from, to - from); }
+  int characterCount() const override { return static_cast<int>(words().size()); }
+  QRect characterRect(int) const override { return rect(); }
+  int offsetAtPoint(const QPoint &) const override { return 0; }
+  QString attributes(int, int *from, int *to) const override {
+    *from = 0;
+    *to = characterCount();
+    return {};
+  }
+  // It has neither a cursor nor a selection.
+  int cursorPosition() const override { return -1; }
+  void setCursorPosition(int) override {}
+  int selectionCount() const override { return 0; }
+  void selection(int, int *from, int *to) const override { *from = *to = 0; }
+  void setSelection(int, int, int) override {}
+  void addSelection(int, int) override {}
+  void removeSelection(int) override {}
+  void scrollToSubstring(int, int) override {}
+
 private:
+  QString words() const {
+    return (text(QAccessible::Name) + ' ' + text(QAccessible::Description)).leftJustified(20);
+  }
+
   PictureBox &box_;
   const Cell cell_;
 };

@@ -1,14 +1,47 @@
 #include "announce.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QTimer>
 #include <QWidget>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr const char *kRole = "korvelRole";
 
+// Orca keeps for good whether a thing was visible when it first met it. So a hidden button counts
+// as visible, without a place.
+class Button : public QAccessibleWidget {
+public:
+  explicit Button(QAbstractButton *button)
+      : QAccessibleWidget(button, QAccessible::Button), button_(*button) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.invisible = false;
+    return state;
+  }
+  QRect rect() const override { return button_.isVisible() ? QAccessibleWidget::rect() : QRect(); }
+  QStringList actionNames() const override {
+    return button_.isEnabled() ? QStringList(pressAction()) : QStringList();
+  }
+  void doAction(const QString &name) override {
+    if (name == pressAction())
+      button_.click();
+  }
+
+private:
+  QAbstractButton &button_;
+};
+
 QAccessibleInterface *withRole(const QString &, QObject *object) {
   const QVariant role = object->property(kRole);
+  if (auto *button = qobject_cast<QAbstractButton *>(object); button && role.isValid())
+    return new Button(button);
   return role.isValid() ? new QAccessibleWidget(static_cast<QWidget *>(object),
                                                 role.value<QAccessible::Role>())
                         : nullptr;
@@ -16,21 +49,17 @@ QAccessibleInterface *withRole(const QString &, QObject *object) {
 
 } // namespace
 
-// Readers say the name of a notification when it begins to be shown. This one has no pixels.
+// Readers say the name of a notification when it begins to be shown, but ask for it later: so each
+// text has a notification of its own, which stays for a while. It has no pixels.
 void announce(QWidget &window, const QString &text) {
   if (!QAccessible::isActive())
     return;
-  auto *notice = window.findChild<QWidget *>("notice", Qt::FindDirectChildrenOnly);
-  if (!notice) {
-    notice = new QWidget(&window);
-    notice->setObjectName("notice");
-    notice->resize(0, 0);
-    setRole(*notice, QAccessible::Notification);
-    notice->show();
-  }
+  auto *notice = new QWidget(&window);
+  notice->resize(0, 0);
+  setRole(*notice, QAccessible::Notification);
   notice->setAccessibleName(text);
-  QAccessibleEvent shown(notice, QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&shown);
+  notice->show();
+  QTimer::singleShot(10s, notice, &QObject::deleteLater);
 }
 
 void setRole(QWidget &widget, QAccessible::Role role) {

@@ -90,8 +90,12 @@ def press(thing):
 
 def field(side):
     """What the cells of a field say, by name."""
-    return {cell.get_name(): cell.get_description()
-            for cell in children(await_object("table", f"{side} Feld"))}
+    cells = {}
+    for cell in children(await_object("table", f"{side} Feld")):
+        cells[cell.get_name()] = state = cell.get_description()
+        line = Atspi.Text.get_text(cell, 0, -1)
+        expect(line == f"{cell.get_name()} {state}".ljust(20), line, state)
+    return cells
 
 
 def press_cell(name):
@@ -112,6 +116,10 @@ await_object("text", "Name des Spielers").set_text_contents("Jörg")
 press(find("radio button", "Größe 1", await_object("panel", "Größe")))
 press(find("push button", "OK!"))
 await_said("Zuerst 4er.")
+press_cell("F4")
+await_said("F4, Boot im Bau.")
+press(find("push button", "Mülleimer"))
+await_said("4er gelöscht.")
 
 for boat in ("A1 B1 C1 C2", "E1 F1 G1", "A4 A5 B5", "I1 J1", "D4 D5", "F3", "H5", "J8"):
     cells = boat.split()
