@@ -1,7 +1,6 @@
 // A demonstration game in the real windows without a screen: from the new-game dialog to the end,
-// with a picture of each phase.
+// with a picture of each phase, or as the frames of a film.
 
-#include "ClockDraw.h"
 #include "Robot.h"
 #include "players.h"
 #include "startup.h"
@@ -14,20 +13,30 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 
 namespace {
 
 constexpr const char *kHelp =
-    "demo [SIZE [FOLDER]]\n"
+    "demo [--film] [SIZE [FOLDER]]\n"
     "    plays a game of that size, 1 to 3 (2), without a screen, and writes a PNG of each\n"
-    "    phase to the folder (demo in the build tree).\n";
+    "    phase to the folder (demo in the build tree). It is the same game each time.\n"
+    "    With --film the pictures are 001.png, 002.png and so on: one after each press,\n"
+    "    and several of each phase, where the film rests.\n";
+
+struct SeededDraw : RandomDraw {
+  std::mt19937 random{179}; // the human wins at all sizes
+  double next() override { return static_cast<double>(random()) * 0x1p-32; }
+};
 
 /// Writes pictures of the main window.
 struct Camera {
   QWidget &window;
   QString folder;
+  bool films;
+  int frames = 0;
 
-  /// With a dialog where it stands over the window.
+  /// A phase, with a dialog where it stands over the window.
   void shoot(const QString &phase, QDialog *dialog = nullptr) {
     QPixmap picture = window.grab();
     if (dialog) {
@@ -36,7 +45,25 @@ struct Camera {
       painter.fillRect(place.adjusted(-3, -3, 3, 3), QColor(40, 60, 90));
       painter.drawPixmap(place.topLeft(), dialog->grab());
     }
-    const QString path = QDir::cleanPath(folder + '/' + phase + ".png");
+    if (!films)
+      save(picture, phase);
+    else
+      for (int i = dialog ? 10 : 5; i > 0; --i) // a dialog has to be read
+        addFrame(picture);
+  }
+
+  void afterPress() {
+    if (films)
+      addFrame(window.grab());
+  }
+
+private:
+  void addFrame(const QPixmap &picture) {
+    save(picture, QString("%1").arg(++frames, 3, 10, QChar('0')));
+  }
+
+  void save(const QPixmap &picture, const QString &name) const {
+    const QString path = QDir::cleanPath(folder + '/' + name + ".png");
     if (!picture.save(path)) {
       std::fprintf(stderr, "demo: cannot write %s\n", qPrintable(path));
       std::exit(2);
@@ -48,8 +75,10 @@ struct Camera {
 void playBattle(frmHaupt &window, Robot &robot, Camera &camera, RandomDraw &draw) {
   RandomGunner gunner(*window.grid(), draw);
   const auto press = [&](const Cell &cell) {
-    if (window.Modus() == frmHaupt::Battle)
-      robot.press(cell);
+    if (window.Modus() != frmHaupt::Battle)
+      return;
+    robot.press(cell);
+    camera.afterPress();
   };
   for (int i = 0; i < 2 * window.grid()->rows(); ++i)
     press(gunner.next());
@@ -71,8 +100,8 @@ void playBattle(frmHaupt &window, Robot &robot, Camera &camera, RandomDraw &draw
     press(gunner.next());
 }
 
-void play(const QString &folder, int size) {
-  ClockDraw draw;
+void play(const QString &folder, int size, bool films) {
+  SeededDraw draw;
   QuietSound sound;
   MemoryStore store;
   store.values["Korvel/Options/Help"] = "0"; // no balloons on the pictures
@@ -82,7 +111,7 @@ void play(const QString &folder, int size) {
   const QTemporaryDir data; // the top ten of this one game
   const auto window = Main(globals, {draw, sound, store, messages, help}, data.path());
   Robot robot(*window);
-  Camera camera{*window, folder};
+  Camera camera{*window, folder, films};
   camera.shoot("1-start");
 
   Robot::onDialog([&](QDialog &dialog) {
@@ -93,6 +122,7 @@ void play(const QString &folder, int size) {
   });
   robot.command("keyNew");
   const Cell last = robot.setFleetButOne(draw, [&](const BoatInWork &boat) {
+    camera.afterPress();
     if (boat.BootID == 3 && boat.TeilNr == 2)
       camera.shoot("3-set-up");
   });
@@ -101,6 +131,7 @@ void play(const QString &folder, int size) {
     Robot::click(Robot::control(dialog, "cmdOK"));
   });
   robot.press(last);
+  camera.afterPress();
   playBattle(*window, robot, camera, draw);
 }
 
@@ -111,15 +142,16 @@ int main(int argc, char **argv) {
   const QApplication app(argc, argv);
   dressApplication();
 
-  const QStringList arguments = app.arguments() << QString();
-  const QString size = arguments[1].isEmpty() ? "2" : arguments[1];
-  if (argc > 3 || size.size() != 1 || size < "1" || size > "3") {
+  QStringList arguments = app.arguments().mid(1);
+  const bool films = arguments.removeOne("--film");
+  const QString size = arguments.value(0, "2");
+  if (arguments.size() > 2 || size.size() != 1 || size < "1" || size > "3") {
     std::fputs(kHelp, stdout);
     return size == "--help" ? 0 : 2;
   }
   const QString folder =
-      QDir(argc > 2 ? arguments[2] : app.applicationDirPath() + "/../demo").absolutePath();
+      QDir(arguments.value(1, app.applicationDirPath() + "/../demo")).absolutePath();
   QDir().mkpath(folder);
-  play(folder, size.toInt());
+  play(folder, size.toInt(), films);
   return 0;
 }

@@ -64,8 +64,8 @@ def await_said(pattern):
     return wait(pattern, lambda: next((text for text in said if re.fullmatch(pattern, text)), None))
 
 
-def children(parent):
-    return [parent.get_child_at_index(i) for i in range(parent.get_child_count())]
+def children(parent):  # None is one that has just gone
+    return list(filter(None, map(parent.get_child_at_index, range(parent.get_child_count()))))
 
 
 def find(kind, name, root=None):
@@ -99,7 +99,7 @@ def field(side):
 
 
 def press_cell(name):
-    sea = find("table", "Linkes Feld")
+    sea = await_object("table", "Linkes Feld")
     press(sea.get_accessible_at(int(name[1:]) - 1, ord(name[0]) - ord("A")))
 
 
