@@ -1,5 +1,6 @@
 #include "Toolbar.h"
 
+#include "announce.h"
 #include "controls.h"
 #include "pictures.h"
 
@@ -63,6 +64,8 @@ void Toolbar::addButton(const QString &key, const QString &caption, const QStrin
                         const QString &toolTip) {
   auto *button = new ToolbarButton(this, caption, picture);
   button->setObjectName(key);
+  setRole(*button, QAccessible::Button);
+  button->setAccessibleName(QString(caption).remove('&'));
   button->setToolTip(toolTip);
   button->setGeometry(kButtonWidth * buttons_++, 1, kButtonWidth, kButtonHeight);
   connect(button, &QAbstractButton::clicked, this, [this, key] { emit clicked(key); });

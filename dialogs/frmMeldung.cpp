@@ -18,7 +18,7 @@ frmMeldung::frmMeldung(QWidget *main) : Dialog(main, {354, 141}, "") {
 
 void frmMeldung::setText(const QString &text) {
   lblMeldung_.setText(text);
-  cmdOK_->setAccessibleDescription(text); // readers say it with the first button
+  cmdOK_->setAccessibleDescription(text.simplified()); // readers say it with the first button
 }
 
 void frmMeldung::setErgebnis(bool answer) {

@@ -87,7 +87,7 @@ private:
 
   // setup.cpp: the human's fleet
   void setPoint(const Cell &cell);
-  void fleetComplete();
+  void fleetComplete(const QString &stands);
   void imgMuell_Click();
   void showBin(bool inWork);
 

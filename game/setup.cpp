@@ -21,19 +21,18 @@ void frmHaupt::setPoint(const Cell &cell) {
     return;
   showBin(false);
   const QString stands = boatInWords(boat_.BootID) + " steht.";
-  if (boat_.next(*Grid)) {
+  if (boat_.next(*Grid))
     say(stands + " Als Nächstes " + boatInWords(boat_.BootID) + ".");
-  } else {
-    say(stands);
-    fleetComplete();
-  }
+  else
+    fleetComplete(stands);
 }
 
-void frmHaupt::fleetComplete() {
+void frmHaupt::fleetComplete(const QString &stands) {
   player_.PlayWav(globals_.sounds.SndBoot, false);
   player_.PlayWav(globals_.sounds.SndAlle, true);
   if (!survivesEvents())
     return;
+  say(stands);
   const bool accepted = ask(this, "Alle Boote wurden gesetzt.\r\n\r\n"
                                   "Bist Du mit der Aufstellung zufrieden?");
   if (closed())
@@ -48,6 +47,7 @@ void frmHaupt::fleetComplete() {
   player_.PlayWav(globals_.sounds.SndStart, true);
   Grid->MoveFleet();
   setModus(Battle);
+  say("Die Schlacht beginnt.");
   openHint("Versuche nun, die Boote des Gegners\nim linken Feld zu treffen!\n"
            "(Einfach ins Feld klicken...)");
 }

@@ -17,10 +17,7 @@ class AccessibleCell : public QAccessibleInterface,
 public:
   AccessibleCell(PictureBox &box, const Cell &cell) : box_(box), cell_(cell) {}
 
-  bool isValid() const override {
-    const QSize size = box_.cells.size();
-    return cell_.X <= size.width() && cell_.Y <= size.height();
-  }
+  bool isValid() const override { return box_.cells.has(cell_); }
   QObject *object() const override { return nullptr; }
   QWindow *window() const override { return box_.window()->windowHandle(); }
   QAccessibleInterface *parent() const override {
@@ -38,6 +35,8 @@ public:
     return state;
   }
   QRect rect() const override {
+    if (!isValid())
+      return {};
     const QRect place = box_.placeOf(cell_);
     return {box_.mapToGlobal(place.topLeft()), place.size()};
   }
@@ -60,7 +59,7 @@ public:
     return box_.isEnabled() ? QStringList(pressAction()) : QStringList();
   }
   void doAction(const QString &name) override {
-    if (name == pressAction() && isValid())
+    if (name == pressAction())
       box_.press(cell_);
   }
   QStringList keyBindingsForAction(const QString &) const override { return {}; }

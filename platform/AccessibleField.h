@@ -14,6 +14,9 @@ class PictureBox;
 struct CellTable {
   /// Columns and rows.
   std::function<QSize()> size;
+  bool has(const Cell &cell) const {
+    return cell.X <= size().width() && cell.Y <= size().height();
+  }
   /// What is seen in a cell, in words; never more.
   std::function<QString(const Cell &)> describe;
   /// The place of a cell, in pixels of the drawing area.

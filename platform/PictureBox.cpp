@@ -1,11 +1,11 @@
 #include "PictureBox.h"
 
+#include "announce.h"
 #include "pictures.h"
 
-#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QWindow>
+#include <QTimer>
 
 namespace {
 
@@ -84,23 +84,12 @@ QRect PictureBox::placeOf(const Cell &cell) const {
   return cells.place(cell).translated(kBorder, kBorder);
 }
 
-// By way of the window, where a press waits while a turn is under way. Later, as what asks for it
-// waits for an answer.
+// Later, as what asks for it waits for an answer; the board may be another one then, or none.
 void PictureBox::press(const Cell &cell) {
-  QMetaObject::invokeMethod(
-      this,
-      [this, cell] {
-        QWindow *handle = window()->windowHandle();
-        if (QApplication::activeModalWidget() || !handle)
-          return;
-        const QPointF place = mapTo(window(), placeOf(cell).center());
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-          QMouseEvent event(type, place, place, handle->mapToGlobal(place), Qt::LeftButton,
-                            type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
-          QApplication::sendEvent(handle, &event);
-        }
-      },
-      Qt::QueuedConnection);
+  QTimer::singleShot(0, this, [this, cell] {
+    if (cells.has(cell))
+      pressAt(*this, placeOf(cell).center());
+  });
 }
 
 bool PictureBox::event(QEvent *event) {

@@ -52,7 +52,7 @@ public:
   CellTable cells;
   /// Where a cell is, in pixels of the box.
   QRect placeOf(const Cell &cell) const;
-  /// A press with the mouse on a cell, which waits its turn like any other.
+  /// A press with the mouse on a cell, as `pressAt` does it.
   void press(const Cell &cell);
 
 signals:

@@ -2,8 +2,11 @@
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include <chrono>
 
@@ -27,14 +30,20 @@ public:
   }
   QRect rect() const override { return button_.isVisible() ? QAccessibleWidget::rect() : QRect(); }
   QStringList actionNames() const override {
-    return button_.isEnabled() ? QStringList(pressAction()) : QStringList();
+    return canBePressed() ? QStringList(pressAction()) : QStringList();
   }
+  // Later, as what asks for it waits for an answer.
   void doAction(const QString &name) override {
     if (name == pressAction())
-      button_.click();
+      QTimer::singleShot(0, &button_, [this] {
+        if (canBePressed())
+          pressAt(button_, button_.rect().center());
+      });
   }
 
 private:
+  bool canBePressed() const { return button_.isVisible() && button_.isEnabled(); }
+
   QAbstractButton &button_;
 };
 
@@ -60,6 +69,19 @@ void announce(QWidget &window, const QString &text) {
   notice->setAccessibleName(text);
   notice->show();
   QTimer::singleShot(10s, notice, &QObject::deleteLater);
+}
+
+void pressAt(QWidget &widget, const QPoint &place) {
+  QWidget *window = widget.window();
+  QWindow *handle = window->windowHandle();
+  if (QApplication::activeModalWidget() || !handle)
+    return;
+  const QPointF at = widget.mapTo(window, place);
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, at, at, handle->mapToGlobal(at), Qt::LeftButton,
+                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
+    QApplication::sendEvent(handle, &event);
+  }
 }
 
 void setRole(QWidget &widget, QAccessible::Role role) {

@@ -122,15 +122,15 @@ void frmScore::setPlatz(int Platz) {
 }
 
 // The winner has hit every boat cell exactly once, so the share of hits follows from the bombs.
+int frmScore::share(int bombs) const { return clsGrid::FleetCells(size_) * 100 / bombs; }
+
 void frmScore::ShowTable(int size) {
   size_ = size;
   for (int place = 1; place <= kPlaces; ++place) {
     const Score::Row &row = services_.score.row(size, place);
     QString quote;
     if (const int bombs = row.bombs(); bombs > 0)
-      quote = QString("%1 (%2%)")
-                  .arg(QString::fromStdString(row.quote))
-                  .arg(clsGrid::FleetCells(size) * 100 / bombs);
+      quote = QString("%1 (%2%)").arg(QString::fromStdString(row.quote)).arg(share(bombs));
     else if (row.quote == "?")
       quote = "?";
     const auto i = static_cast<std::size_t>(place - 1);
@@ -145,11 +145,9 @@ void frmScore::nameRows() {
   for (int place = 1; place <= kPlaces; ++place) {
     const Score::Row &row = services_.score.row(size_, place);
     const QString isNew = place == Platz_ ? "Neu auf " : "";
-    const QString result = row.bombs() > 0
-                               ? QString(", %1 Bomben, %2 %")
-                                     .arg(row.bombs())
-                                     .arg(clsGrid::FleetCells(size_) * 100 / row.bombs())
-                               : QString();
+    const QString result =
+        row.bombs() > 0 ? QString(", %1 Bomben, %2 %").arg(row.bombs()).arg(share(row.bombs()))
+                        : QString();
     lblNr_[static_cast<std::size_t>(place - 1)]->setAccessibleName(
         QString("%1Platz %2: %3%4")
             .arg(isNew)

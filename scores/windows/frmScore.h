@@ -45,6 +45,8 @@ private:
   void buildTabs();
   void ShowTable(int size);
   void nameRows();
+  /// Of hits, in per cent.
+  int share(int bombs) const;
   void ResetColors() { setRowColors(0, kPlaces, Qt::black); }
   void setRowColors(int first, int count, const QColor &color);
   void blink();

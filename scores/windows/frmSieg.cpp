@@ -7,6 +7,7 @@ namespace {
 
 constexpr QColor kWine(0xAC, 0x0D, 0x4D);
 constexpr int kBannerTop = 16; // pixels
+constexpr const char *kQuestion = "Möchtest Du die Highscore-Tabelle ansehen?";
 
 } // namespace
 
@@ -24,7 +25,7 @@ frmSieg::frmSieg(QWidget *main, const ScoreServices &services)
   dress(lblText_, {8, 64, 369, 49}, {.font = small, .text = Qt::white, .wrapped = true});
   lblText_.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   dress(lblBomben_, {4, 112, 373, 25}, {sansFont(15.75, QFont::Bold), kWine});
-  auto *Label1 = new QLabel("Möchtest Du die Highscore-Tabelle ansehen?", &picHinten_);
+  auto *Label1 = new QLabel(kQuestion, &picHinten_);
   Label1->setObjectName("Label1");
   dress(*Label1, {8, 160, 369, 17}, {small, Qt::white});
 
@@ -46,8 +47,7 @@ void frmSieg::setBild(int Bild, const QString &Bomben) {
 
 void frmSieg::setText(const QString &text) {
   lblText_.setText(text);
-  cmdJa_->setAccessibleDescription(text + " " + lblBomben_.text() + " " +
-                                   "Möchtest Du die Highscore-Tabelle ansehen?");
+  cmdJa_->setAccessibleDescription((text + ' ' + lblBomben_.text() + ' ' + kQuestion).simplified());
 }
 
 void frmSieg::showScores() {
