@@ -31,6 +31,9 @@ poll 30 is_size_3 || fail "expected fields of size 3"
 
 # Names are completed, from the list that came with the game or the player's own, what a dead key
 # composes too.
+new_game x
+press main 45 31
+await_window dialog 284x203 '^Neues Spiel$' # so the field of size 1 has been painted
 is_renamed # from nothing
 call A n n a && anna=$name
 call x
