@@ -36,8 +36,7 @@ press main 45 31
 await_window dialog 284x203 '^Neues Spiel$' # so the field of size 1 has been painted
 is_renamed # from nothing
 call A n n a && anna=$name
-call x
-call A n
+call x && call A n
 [ "$name" = "$anna" ] || fail "Anna was not completed"
 printf 'Emil\r\nJulia\r\n\xc9mile\r\n' >"$own/Combo.txt"
 call J u l i a && julia=$name
