@@ -14,7 +14,3 @@ Sounds Sounds::load() {
           .SndSieg = loadSound("sieg"),
           .SndVerloren = loadSound("verloren")};
 }
-
-QString dataPath(const QString &folder, const QString &file) {
-  return folder.endsWith('/') ? folder + file : folder + '/' + file;
-}

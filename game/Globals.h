@@ -8,6 +8,7 @@
 #include "Settings.h"
 #include "SettingsStore.h"
 #include "SoundDevice.h"
+#include "folders.h"
 
 #include <QPixmap>
 #include <QString>
@@ -35,8 +36,8 @@ struct Sounds {
 /// What the start-up fills and the windows share.
 struct Globals {
   QString ScorePath; ///< `Score.hsc`, the top ten
-  QString ComboPath; ///< `Combo.txt`, the list of names
   QString HelpPath;  ///< `Hilfe.qch`, the help file
+  Folders folders{{}};
   Sounds sounds;
   std::array<QPixmap, 2> MuellIcon; ///< the dustbin: 0 grey, 1 red
   QPixmap background;               ///< of the main window
@@ -44,6 +45,3 @@ struct Globals {
   Settings settings;
   Score score{{}}; ///< the top ten
 };
-
-/// The path of a data file in the program's folder, which may end in a separator or not.
-QString dataPath(const QString &folder, const QString &file);

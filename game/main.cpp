@@ -1,6 +1,7 @@
 #include "ClockDraw.h"
 #include "LateSound.h"
 #include "QtHelpViewer.h"
+#include "folders.h"
 #include "scale.h"
 #include "startup.h"
 
@@ -39,18 +40,18 @@ int main(int argc, char **argv) {
   qInstallMessageHandler(nullptr);
   dressApplication();
 
-  const QString folder = app.applicationDirPath();
-  if (folder.isEmpty()) { // a name that QString can't hold, or no /proc
+  const std::optional<Folders> folders = findFolders();
+  if (!folders) {
     QtMessageBox().critical("Korvel", kNoFolder);
     return 1;
   }
   ClockDraw draw;
-  LateSound sound;
+  LateSound sound(folders->modules);
   QtSettingsStore settings;
   QtMessageBox messages;
   QtHelpViewer help;
   Globals globals;
-  const auto window = Main(globals, {draw, sound, settings, messages, help}, folder);
+  const auto window = Main(globals, {draw, sound, settings, messages, help}, *folders);
   // Opening the sound card can take longer than the whole start, so the first frames come before.
   QTimer::singleShot(kSoundDelay, [&] { sound.open(); });
   return QApplication::exec();

@@ -59,7 +59,7 @@ int frmHaupt::UpdateBoote() {
 }
 
 void frmHaupt::DoNew() {
-  frmNeu dialog(this, Grid->Size(), lblName[0].text(), globals_.ComboPath,
+  frmNeu dialog(this, Grid->Size(), lblName[0].text(), globals_.folders.names(),
                 [this](int size, const QString &name) { startGame(size, name); });
   if (closed())
     return;

@@ -29,14 +29,14 @@ void dressApplication() {
   QApplication::setWindowIcon(icon);
 }
 
-std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const QString &folder) {
+std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const Folders &folders) {
   auto splash = std::make_unique<frmStart>(QApplication::applicationVersion());
   splash->show();
   letEventsRun();
 
-  globals.ScorePath = dataPath(folder, "Score.hsc");
-  globals.ComboPath = dataPath(folder, "Combo.txt");
-  globals.HelpPath = dataPath(folder, "Hilfe.qch");
+  globals.folders = folders;
+  globals.ScorePath = pathIn(folders.player, "Score.hsc");
+  globals.HelpPath = pathIn(folders.data, "Hilfe.qch");
   globals.sounds = Sounds::load();
   globals.MuellIcon = {loadPicture("muell-grau"), loadPicture("muell-rot")};
   globals.sprites = Sprites::load();

@@ -10,5 +10,5 @@
 void dressApplication();
 
 /// Starts the game: fills the globals and shows the main window. From here on window events drive
-/// it, until that window is closed. `folder` is where the data files lie.
-std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const QString &folder);
+/// it, until that window is closed. `folders` is where the data files lie.
+std::unique_ptr<frmHaupt> Main(Globals &globals, const Services &services, const Folders &folders);

@@ -1,15 +1,15 @@
 #include "LateSound.h"
 
-#include <QCoreApplication>
+#include "folders.h"
+
 #include <QLibrary>
 
 #include <utility>
 
 SoundDevice *LateSound::device() {
   if (!std::exchange(wasTried_, true)) {
-    const QString module = QCoreApplication::applicationDirPath() + "/klang";
-    if (const auto make =
-            reinterpret_cast<SoundDevice *(*)()>(QLibrary::resolve(module, "korvelSound")))
+    if (const auto make = reinterpret_cast<SoundDevice *(*)()>(
+            QLibrary::resolve(pathIn(folder_, "klang"), "korvelSound")))
       device_.reset(make());
   }
   return device_.get();

@@ -34,6 +34,7 @@ dbus               dbus-run-session
 xauth              xauth
 desktop-file-utils desktop-file-validate
 appstream          appstreamcli
+lintian            lintian
 clang              clang++
 libclang-rt-14-dev /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a
 "

@@ -6,6 +6,8 @@
 #include <cstring>
 
 QImage loadImage(const QString &name) {
+  Q_INIT_RESOURCE(decoded); // has the linker take them from the library
+  Q_INIT_RESOURCE(korvel);
   const QResource decoded(":/decoded/" + name);
   if (!decoded.isValid()) {
     QImage image(":/pictures/" + name); // tries all endings that Qt can read

@@ -30,8 +30,8 @@ red() { # 1|0: whether there is red text on the top ten
 }
 
 is_filed() { # the winner, in place 1
-  [ "$(stat -c %s "$tmp/Score.hsc")" = 1800 ] &&
-    head -c 30 "$tmp/Score.hsc" | iconv -f cp1252 | grep -aqE 'Computer|Jörg'
+  [ "$(stat -c %s "$own/Score.hsc")" = 1800 ] &&
+    head -c 30 "$own/Score.hsc" | iconv -f cp1252 | grep -aqE 'Computer|Jörg'
 }
 
 # A whole battle, whose pauses are a third as long.

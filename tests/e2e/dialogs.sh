@@ -29,9 +29,16 @@ await_end "taking over"
 start SDL_AUDIODRIVER=disk SDL_DISKAUDIOFILE="$tmp/heard"
 poll 30 is_size_3 || fail "expected fields of size 3"
 
-# Names are completed, what a dead key composes too.
-printf 'Anna\r\nJulia\r\n\xc9mile\r\n' >"$tmp/Combo.txt"
+# Names are completed, from the list that came with the game or the player's own, what a dead key
+# composes too.
+new_game x
+press main 45 31
+await_window dialog 284x203 '^Neues Spiel$' # so the field of size 1 has been painted
 is_renamed # from nothing
+call A n n a && anna=$name
+call x && call A n
+[ "$name" = "$anna" ] || fail "Anna was not completed"
+printf 'Emil\r\nJulia\r\n\xc9mile\r\n' >"$own/Combo.txt"
 call J u l i a && julia=$name
 call dead_acute E m i l e && emile=$name
 call j u
@@ -41,3 +48,8 @@ call dead_acute e
 
 press main 225 31 # the top ten, with its jingle
 poll 30 grep -qa '[^[:cntrl:]]' "$tmp/heard" || fail "expected to hear something"
+await_window dialog 300x381 ''
+press dialog 150 30
+await_gone
+press main 405 31
+await_window help 860x600 'Hilfe$'

@@ -13,9 +13,16 @@ import tempfile
 import time
 from collections import Counter
 
+def skip(reason):
+    print(f"SKIPPED: no accessibility bus: {reason}")
+    sys.exit(77)
+
+
 if "INSIDE" not in os.environ:  # in a screen and a bus of its own
     python = "/usr/bin/python3"  # which has the packages of the system
-    command = ["xvfb-run", "-a", "dbus-run-session", "--", python, *sys.argv]
+    command = ["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -noreset", "dbus-run-session", "--", python, *sys.argv]
+    if not shutil.which(command[0]) or not shutil.which("dbus-run-session"):
+        skip("xvfb-run or dbus-run-session is missing")
     with tempfile.TemporaryDirectory() as folder:
         shutil.copytree(sys.argv[1], f"{folder}/Korvel")
         command[-1] = f"{folder}/Korvel"
@@ -32,9 +39,9 @@ try:
         GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True))),
         None, 0, 5000)
 except Exception as missing:  # whatever it is, nothing can be tested
-    print(f"SKIPPED: no accessibility bus: {missing}")
-    sys.exit(77)
+    skip(missing)
 
+Atspi.set_timeout(30_000, 30_000)
 said = []  # by the game
 
 
@@ -71,16 +78,34 @@ def children(parent):  # None is one that has just gone
 def find(kind, name, root=None):
     """The shown object of a kind whose name matches, if there is one."""
     for each in children(root or Atspi.get_desktop(0)):
-        if each.get_role_name() == kind and re.fullmatch(name, each.get_name()):
-            if each.get_state_set().contains(Atspi.StateType.SHOWING):
-                return each
-        if each.get_role_name() != "table" and (found := find(kind, name, each)):
-            return found
+        try:
+            if each.get_role_name() == kind and re.fullmatch(name, each.get_name()):
+                if each.get_state_set().contains(Atspi.StateType.SHOWING):
+                    return each
+            if each.get_role_name() != "table" and (found := find(kind, name, each)):
+                return found
+        except GLib.Error:  # it has just gone
+            pass
     return None
 
 
 def await_object(kind, name):
+    Atspi.get_desktop(0).clear_cache()  # a dialog may have been met before it was whole
     return wait(f"{kind} {name}", lambda: find(kind, name))
+
+
+def check_tree(root):
+    """Names and texts of a window in battle: only a cell tells of a cell, and only of itself."""
+    for each in children(root):
+        kind, name, words = each.get_role_name(), each.get_name(), each.get_description()
+        if kind == "table cell":
+            line, isLeft = Atspi.Text.get_text(each, 0, -1), root.get_name() == "Linkes Feld"
+            expect(line == f"{name} {words}".ljust(20), line, words)
+            expect(words in ("Wasser", "daneben", "Treffer") or not isLeft, name, words)
+            expect(each.get_n_actions() == isLeft, name, "has another action")
+        elif kind != "notification":
+            expect(not re.search(r"\b[A-J][1-8]\b", name + words), kind, name, words)
+        check_tree(each)
 
 
 def press(thing):
@@ -90,12 +115,9 @@ def press(thing):
 
 def field(side):
     """What the cells of a field say, by name."""
-    cells = {}
-    for cell in children(await_object("table", f"{side} Feld")):
-        cells[cell.get_name()] = state = cell.get_description()
-        line = Atspi.Text.get_text(cell, 0, -1)
-        expect(line == f"{cell.get_name()} {state}".ljust(20), line, state)
-    return cells
+    lines = (Atspi.Text.get_text(cell, 0, -1).split(maxsplit=1)
+             for cell in children(await_object("table", f"{side} Feld")))
+    return {name: state.rstrip() for name, state in lines}
 
 
 def press_cell(name):
@@ -111,11 +133,14 @@ def expect(truth, *what):
 listener = Atspi.EventListener.new(hear)
 listener.register("object:state-changed:showing")
 game = subprocess.Popen([f"{sys.argv[1]}/Korvel"])
+await_object("push button", "Neues Spiel")
+press(await_object("push button", "Mülleimer"))  # hidden, so it does nothing
 press(await_object("push button", "Neues Spiel"))
 await_object("text", "Name des Spielers").set_text_contents("Jörg")
 press(find("radio button", "Größe 1", await_object("panel", "Größe")))
 press(find("push button", "OK!"))
 await_said("Zuerst 4er.")
+await_object("label", "Deine 4er: 1")
 press_cell("F4")
 await_said("F4, Boot im Bau.")
 press(find("push button", "Mülleimer"))
@@ -157,6 +182,7 @@ for cell in sea:
     if shots == 1:
         press_cell(cell)
         await_said(f"Du: {cell} war schon dran\\.")
+        check_tree(await_object("frame", "Korvel"))
 
 # The end and the top ten.
 winner = "Jörg" if reply == " Du hast gewonnen." else "Computer"

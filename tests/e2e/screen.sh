@@ -1,7 +1,6 @@
 # Sourced by the tests that play the real game: its windows in an X server of its own, presses by
-# xdotool, pictures by ImageMagick. The first argument is the folder that holds the game.
+# xdotool, pictures by ImageMagick. The first argument is what bundle.sh has left.
 set -u
-[ -x "${1:-}/Korvel" ] || { echo "usage: $0 FOLDER (with the executable Korvel)" >&2; exit 2; }
 tmp=$(mktemp -d) screenshot=/tmp/korvel-test-$$.png
 game='' xvfb=''
 declare -A window wx wy
@@ -73,7 +72,7 @@ await_end() {
 # start [VARIABLE=VALUE]...: the game, up to its main window
 start() {
   env -i LC_ALL="$LC_ALL" DISPLAY="$DISPLAY" SDL_AUDIODRIVER=dummy HOME="$tmp" \
-    XDG_RUNTIME_DIR="$tmp/run" "$@" "$tmp/Korvel" >"$tmp/game.log" 2>&1 &
+    XDG_RUNTIME_DIR="$tmp/run" "$@" "$program" >"$tmp/game.log" 2>&1 &
   game=$!
   await_window main 700x473 '^Korvel$'
 }
@@ -87,7 +86,11 @@ new_game() {
   await_gone
 }
 
-cp -r "$1"/* "$tmp" # what it writes beside itself stays here
+program=$(echo "$1"/usr/games/korvel) own=$tmp/.local/share/Korvel # the player's files
+if [ ! -e "$program" ]; then
+  program=$tmp/Korvel own=$tmp
+  cp -r "$1"/* "$tmp" || exit # what it writes beside itself stays here
+fi
 mkdir -p -m 700 "$tmp/run" "$tmp/.config/Korvel"
 printf '[Options]\nSound=0\nHelp=0\nStdSize=2\n' >"$tmp/.config/Korvel/Korvel.conf"
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$tmp/display" 2>"$tmp/x.log" &

@@ -19,7 +19,7 @@ struct Game {
   QtMessageBox messages;
   Globals globals;
   std::unique_ptr<frmHaupt> window =
-      Main(globals, {draw, sound, store, messages, help}, "/nowhere");
+      Main(globals, {draw, sound, store, messages, help}, QString("/nowhere"));
   Robot robot{*window};
 };
 
