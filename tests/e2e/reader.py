@@ -20,7 +20,8 @@ def skip(reason):
 
 if "INSIDE" not in os.environ:  # in a screen and a bus of its own
     python = "/usr/bin/python3"  # which has the packages of the system
-    command = ["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -noreset", "dbus-run-session", "--", python, *sys.argv]
+    command = ["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -noreset",
+               "dbus-run-session", "--", python, *sys.argv]
     if not shutil.which(command[0]) or not shutil.which("dbus-run-session"):
         skip("xvfb-run or dbus-run-session is missing")
     with tempfile.TemporaryDirectory() as folder:
