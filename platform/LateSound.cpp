@@ -5,12 +5,20 @@
 
 #include <utility>
 
+#ifdef Q_OS_WIN
+extern "C" SoundDevice *korvelSound();
+#endif
+
 SoundDevice *LateSound::device() {
   if (!std::exchange(wasTried_, true)) {
+#ifdef Q_OS_WIN
+    device_.reset(korvelSound());
+#else
     const QString module = QCoreApplication::applicationDirPath() + "/klang";
     if (const auto make =
             reinterpret_cast<SoundDevice *(*)()>(QLibrary::resolve(module, "korvelSound")))
       device_.reset(make());
+#endif
   }
   return device_.get();
 }
