@@ -40,11 +40,13 @@ bool QHelpEngine::registerDocumentation(const QString &file) {
     QSqlQuery query(book);
     query.exec("SELECT 'qthelp://' || n.Name || '/' || f.Name || '/', c.Data FROM NamespaceTable n "
                "JOIN FolderTable f ON f.NamespaceID = n.Id JOIN ContentsTable c");
-    query.next();
-    const QString folder = query.value(0).toString();
-    const QByteArray topics = query.value(1).toByteArray();
+    const bool isBook = query.next();
+    const QString folder = isBook ? query.value(0).toString() : QString();
+    if (isBook)
+      readContents(query.value(1).toByteArray(), folder);
 
-    query.exec("SELECT Name, Data FROM FileNameTable JOIN FileDataTable ON Id = FileId");
+    query.exec("SELECT Name, Data FROM FileNameTable JOIN FileDataTable ON Id = FileId "
+               "WHERE Name <> ''");
     while (query.next())
       pages_[folder + query.value(0).toString()] = qUncompress(query.value(1).toByteArray());
 
@@ -55,7 +57,6 @@ bool QHelpEngine::registerDocumentation(const QString &file) {
       url.setFragment(query.value(2).toString());
       keywords_[query.value(0).toString()].append({url});
     }
-    readContents(topics, folder);
   }
   QSqlDatabase::removeDatabase(file);
   index_.setStringList(keywords_.keys());

@@ -59,7 +59,7 @@ public:
 
   bool registerDocumentation(const QString &file);
   QList<QUrl> files(const QString &, const QString &, const QString &ending) const;
-  QByteArray fileData(const QUrl &url) const { return pages_[url]; }
+  QByteArray fileData(const QUrl &url) const { return pages_[url.adjusted(QUrl::RemoveFragment)]; }
   QList<QHelpLink> documentsForKeyword(const QString &word) const { return keywords_[word]; }
   QHelpContentModel *contentModel() { return &contents_; }
   QHelpContentWidget *contentWidget();
