@@ -15,6 +15,7 @@ void dressApplication() {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QPalette palette(QColor(236, 238, 244));
   palette.setColor(QPalette::Highlight, QColor(20, 70, 140));
+  palette.setColor(QPalette::HighlightedText, Qt::white); // which on Windows would be black
   palette.setColor(QPalette::PlaceholderText, QColor(75, 80, 95));
   QApplication::setPalette(palette);
   QFont font = sansFont(9.75); // tool tips, messages, help, which may hold any text

@@ -1,7 +1,14 @@
 # The portable bundle.
 
+if(WIN32)
+  include(windows/texts.cmake)
+  install(TARGETS Korvel RUNTIME DESTINATION .)
+  install(FILES ${KORVEL_LICENCES} DESTINATION .)
+else()
+  include(texts.cmake)
+  install(TARGETS Korvel klang RUNTIME DESTINATION . LIBRARY DESTINATION .)
+endif()
 configure_file(LIESMICH.txt.in LIESMICH.txt @ONLY)
-install(TARGETS Korvel klang RUNTIME DESTINATION . LIBRARY DESTINATION .)
 install(FILES ${book} ${names}
   ${PROJECT_SOURCE_DIR}/LICENSE
   ${PROJECT_SOURCE_DIR}/CHANGELOG.md
@@ -17,3 +24,6 @@ endif()
 set(CPACK_GENERATOR TGZ)
 set(CPACK_PACKAGE_FILE_NAME
   Korvel-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
+if(WIN32)
+  set(CPACK_PACKAGE_FILE_NAME Korvel-${PROJECT_VERSION}-Windows)
+endif()

@@ -6,11 +6,19 @@
 
 #include <utility>
 
+#ifdef Q_OS_WIN
+extern "C" SoundDevice *korvelSound();
+#endif
+
 SoundDevice *LateSound::device() {
   if (!std::exchange(wasTried_, true)) {
+#ifdef Q_OS_WIN
+    device_.reset(korvelSound());
+#else
     if (const auto make = reinterpret_cast<SoundDevice *(*)()>(
             QLibrary::resolve(pathIn(folder_, "klang"), "korvelSound")))
       device_.reset(make());
+#endif
   }
   return device_.get();
 }

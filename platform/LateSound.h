@@ -8,7 +8,7 @@
 
 /// The sound of the module `klang`, a shared library. It is loaded when sound is first needed: the
 /// libraries that it brings, some thirty, would lengthen the start. If it can't be loaded, the game
-/// is silent.
+/// is silent. On Windows it is a part of the executable.
 ///
 /// The module exports `extern "C" SoundDevice *korvelSound()`, which makes a device for the caller
 /// to own.

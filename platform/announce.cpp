@@ -58,17 +58,23 @@ QAccessibleInterface *withRole(const QString &, QObject *object) {
 
 } // namespace
 
-// Readers say the name of a notification when it begins to be shown, but ask for it later: so each
-// text has a notification of its own, which stays for a while. It has no pixels.
 void announce(QWidget &window, const QString &text) {
   if (!QAccessible::isActive())
     return;
+#ifdef Q_OS_WIN
+  // Qt hands a value that is a text to Windows as a notification.
+  QAccessibleValueChangeEvent said(&window, text);
+  QAccessible::updateAccessibility(&said);
+#else
+  // Readers say the name of a notification when it begins to be shown, but ask for it later: so each
+  // text has a notification of its own, which stays for a while. It has no pixels.
   auto *notice = new QWidget(&window);
   notice->resize(0, 0);
   setRole(*notice, QAccessible::Notification);
   notice->setAccessibleName(text);
   notice->show();
   QTimer::singleShot(10s, notice, &QObject::deleteLater);
+#endif
 }
 
 void pressAt(QWidget &widget, const QPoint &place) {

@@ -33,11 +33,9 @@ File openPlain(const fs::path &path, const char *mode, Turn turn) {
   std::error_code error;
   if (!fs::is_regular_file(path, error))
     return nullptr;
-  File file(std::fopen(path.string().c_str(), mode));
-  if (file) {
-    std::setvbuf(file.get(), nullptr, _IONBF, 0); // a write of the table is one write
+  File file(openFile(path, mode));
+  if (file)
     takeTurn(*file, turn);
-  }
   return file;
 }
 
@@ -48,7 +46,7 @@ bool isMissing(const fs::path &path) {
 
 void createIfMissing(const fs::path &path) {
   if (isMissing(path))
-    File(std::fopen(path.string().c_str(), "ab"));
+    File(openFile(path, "ab"));
 }
 
 /// The bytes of the table, fewer if the file ends early; nothing if it can't be read. What comes
@@ -207,7 +205,7 @@ void Score::copyDamagedFile() const {
     } while (fs::exists(older, error));
     fs::rename(copy, older, error);
   }
-  File file(error ? nullptr : std::fopen(copy.string().c_str(), "wbx"));
+  File file(error ? nullptr : openFile(copy, "wbx"));
   if (file && (std::fwrite(bytes->data(), 1, bytes->size(), file.get()) != bytes->size() ||
                std::fclose(file.release()) != 0))
     fs::remove(copy, error); // a full disk has taken a part of it

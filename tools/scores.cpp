@@ -59,7 +59,7 @@ int main(int argc, char **argv) {
     std::fputs(kHelp, stdout);
     return file == "--help" ? 0 : 2;
   }
-  Score score(file);
+  Score score(std::u8string(file.begin(), file.end())); // UTF-8 on Windows too, by the manifest
   if (Score::isBroken(score.loadAtStart()))
     std::fprintf(stderr, "%s\n", Score::kDamaged);
   if (enters)

@@ -1,9 +1,6 @@
 #include "HelpWindow.h"
 
 #include <QBoxLayout>
-#include <QHelpContentWidget>
-#include <QHelpIndexModel>
-#include <QHelpLink>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QSplitter>

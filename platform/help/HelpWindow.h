@@ -1,9 +1,9 @@
 #pragma once
 
 #include "HelpViewer.h"
+#include "qtHelp.h"
 
 #include <QCollator>
-#include <QHelpEngine>
 #include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>

@@ -137,6 +137,7 @@ bool SdlSound::Card::end() {
 }
 
 void SdlSound::Card::run() {
+  SDL_SetMainReady(); // as SDL asks of a program with a main of its own
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   const auto isAsked = [this] { return isToOpen_ || isToEnd_ || next_; };
   std::unique_lock lock(mutex_);

@@ -1,5 +1,12 @@
 #include "turns.h"
 
+std::FILE *openFile(const std::filesystem::path &path, const char *mode) {
+  std::FILE *file = std::fopen(path.c_str(), mode);
+  if (file)
+    std::setvbuf(file, nullptr, _IONBF, 0); // so a write is one of the system's at once
+  return file;
+}
+
 #if __has_include(<sys/file.h>)
 
 #include <cerrno>
