@@ -25,7 +25,6 @@ public:
     PFeld().set(boat.X(j), boat.Y(j), 2, status);
   }
 
-  std::vector<Cell> ShotList() { return grid_.ShotList(); }
   bool CreateComputerBoat(int BootID) { return grid_.CreateComputerBoat(BootID); }
   bool PlaceComputerBoats() { return grid_.PlaceComputerBoats(); }
 
