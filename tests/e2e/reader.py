@@ -13,6 +13,7 @@ import tempfile
 import time
 from collections import Counter
 
+
 def skip(reason):
     print(f"SKIPPED: no accessibility bus: {reason}")
     sys.exit(77)
