@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QTest>
 
 namespace {
 
@@ -25,22 +24,6 @@ TEST_F(Window, StartsIdleAndTellsOfADamagedFile) {
   EXPECT_EQ(control("picpFeld").size(), QSize(323, 259)) << "the stored size counts at once";
   for (const QWidget *other : QApplication::topLevelWidgets())
     EXPECT_EQ(other->isVisible(), other == window.get()) << "the splash has gone";
-}
-
-TEST_F(Window, LeavingAsksFirst) {
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  QString question;
-  Robot::onDialog([&](QDialog &dialog) {
-    question = Robot::control<QLabel>(dialog, "lblMeldung").text();
-    Robot::click(Robot::control(dialog, "cmdAbbruch"));
-  });
-  QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier); // at once, not during a later turn
-  EXPECT_EQ(question, "\r\nWillst Du das Spiel wirklich beenden?");
-  EXPECT_TRUE(window->isVisible());
-  Robot::answer("cmdOK");
-  robot->command("keyEnde");
-  EXPECT_FALSE(window->isVisible());
-  EXPECT_EQ(sound.log, Log{"start silence"});
 }
 
 TEST_F(Window, FleetThatCannotBeMadeEndsTheProgram) {

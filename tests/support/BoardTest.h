@@ -17,13 +17,6 @@ public:
 
   Field &CFeld() { return grid_.CFeld_; }
   Field &PFeld() { return grid_.PFeld_; }
-  std::vector<tBoot> &PBoote() { return grid_.PBoote_; }
-  /// The state of a point of the human's boat, in its record and on the field.
-  void setStatus(int BootID, int j, std::uint8_t status) {
-    tBoot &boat = PBoote()[clsGrid::boat(BootID)];
-    boat.setStatus(j, status);
-    PFeld().set(boat.X(j), boat.Y(j), 2, status);
-  }
 
   bool CreateComputerBoat(int BootID) { return grid_.CreateComputerBoat(BootID); }
   bool PlaceComputerBoats() { return grid_.PlaceComputerBoats(); }
