@@ -1,5 +1,7 @@
-// Every control of every window, measured against the tables of the design.
+// Every control of every window, measured against the tables of the design, and what screen readers
+// and eyes that need contrast get of it.
 
+#include "QtHelpViewer.h"
 #include "Stage.h"
 #include "controls.h"
 #include "frmMeldung.h"
@@ -9,11 +11,70 @@
 #include "pictures.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
 #include <QScreen>
+#include <QTest>
+
+#include <cmath>
 
 namespace {
 
-using Places = Stage;
+struct Places : Stage {
+  Places() { dressApplication(); }
+};
+
+QString read(QWidget &widget, QAccessible::Text kind) {
+  return QAccessible::queryAccessibleInterface(&widget)->text(kind);
+}
+
+/// From 0.05, black, to 1.05, white.
+double luminance(const QColor &c) {
+  return 0.2126 * std::pow(c.redF(), 2.2) + 0.7152 * std::pow(c.greenF(), 2.2) +
+         0.0722 * std::pow(c.blueF(), 2.2) + 0.05;
+}
+
+double contrast(const QColor &a, const QColor &b) {
+  return std::max(luminance(a) / luminance(b), luminance(b) / luminance(a));
+}
+
+/// Between a text, at its clearest pixel, and what is there without it.
+double contrastOf(QWidget &control) {
+  const QVariant text = control.property("text");
+  const QRect place(control.mapTo(control.window(), QPoint()), control.size());
+  const QImage written = control.window()->grab(place).toImage();
+  control.setProperty("text", " "); // not empty, which would move an icon
+  const QImage behind = control.window()->grab(place).toImage();
+  control.setProperty("text", text);
+  double most = 0;
+  for (int x = 0; x < behind.width(); ++x)
+    for (int y = 0; y < behind.height(); ++y)
+      most = std::max(most, contrast(written.pixelColor(x, y), behind.pixelColor(x, y)));
+  return most;
+}
+
+/// Names, visible focus, contrast of a window and all in it.
+void checkAccess(QWidget &window) {
+  window.show();
+  QApplication::processEvents(); // an earlier window may still be on its way to the front
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  EXPECT_FALSE(read(window, QAccessible::Name).trimmed().isEmpty());
+  window.setAttribute(Qt::WA_KeyboardFocusChange); // as after a Tab
+  for (auto *control : window.findChildren<QWidget *>()) {
+    SCOPED_TRACE(window.metaObject()->className() + ('.' + control->objectName()).toStdString());
+    if (!control->isVisible() || !control->isEnabled())
+      continue;
+    const bool takesFocus = control->focusPolicy() & Qt::TabFocus;
+    const bool isTold = takesFocus || control->inherits("PictureBox");
+    EXPECT_TRUE(!isTold || !read(*control, QAccessible::Name).isEmpty());
+    window.setFocus(); // no cursor in a text
+    EXPECT_TRUE(control->property("text").toString().isEmpty() || contrastOf(*control) >= 4.5);
+    const QImage without = window.grab().toImage();
+    control->setFocus();
+    EXPECT_TRUE(!takesFocus || window.grab().toImage() != without) << "marks no focus";
+  }
+}
 
 /// A control in a line: name, place in its window, size, text, tool tip. `optSize0..2` are three
 /// alike, of which the first and the last place are told and all the texts.
@@ -45,9 +106,11 @@ void measure(QWidget &window, const QString &table) {
                           .trimmed());
   for (const QString &line : lines.mid(1))
     EXPECT_EQ(describe(window, line.section(' ', 0, 0)), line);
+  checkAccess(window);
 }
 
-TEST_F(Places, AreThoseOfTheDesign) {
+TEST_F(Places, AreThoseOfTheDesignAndAccessible) {
+  globals.settings.Help = 0; // a balloon would cover a name
   newGame(1);
   measure(*window, R"(700x473 Korvel
 keyNew 0,1 90x63 '&Neues Spiel' 'Neues Spiel beginnen.'
@@ -134,6 +197,13 @@ lblQuote0..9 200,112 83x17|200,310 83x17 '?'
 lblBeschriftung3 40,340 221x13 'Zum Beenden auf das Fenster klicken!'
 optSize0..2 5,355 90x21|185,355 90x21 'Größe 1|Größe 2|Größe 3' 'Highscoretabelle entsprechend Spielebene anzeigen.'
 cmdClear 275,355 21x21 'Löscht die komplette Top-Ten!')");
+  const QPalette palette = QApplication::palette();
+  EXPECT_GE(contrast(palette.highlightedText().color(), palette.highlight().color()), 4.5);
+  QtHelpViewer viewer;
+  for (const auto entry : {HelpViewer::Entry::contents, HelpViewer::Entry::index}) {
+    ASSERT_EQ(viewer.show(KORVEL_BOOK, entry), "");
+    checkAccess(*viewer.window());
+  }
 }
 
 } // namespace
