@@ -19,7 +19,6 @@ public:
   Field &PFeld() { return grid_.PFeld_; }
 
   bool CreateComputerBoat(int BootID) { return grid_.CreateComputerBoat(BootID); }
-  bool PlaceComputerBoats() { return grid_.PlaceComputerBoats(); }
 
 private:
   static void place(Field &field, std::vector<tBoot> &boats, const char *fleet) {
