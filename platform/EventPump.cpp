@@ -28,10 +28,8 @@ protected:
   bool eventFilter(QObject *watched, QEvent *event) override {
     if (!isInput(*watched, event->type()) || (depth_ == 0 && kept_.empty()))
       return false;
-    if (event == handedOn_) {
-      handedOn_ = nullptr;
+    if (event == handedOn_)
       return false;
-    }
     kept_.push_back({watched, std::unique_ptr<QEvent>(event->clone())});
     // The copy shares its place with the pointing device, and Qt writes the next event's place
     // there. An event of the same place, made now, leaves the copy its own.
@@ -99,6 +97,7 @@ private:
       return;
     handedOn_ = input.event.get();
     qApp->notify(input.receiver, input.event.get()); // `sendEvent` would mark it as not the user's
+    handedOn_ = nullptr;
   }
 
   int depth_ = 0; ///< of `letEventsRun`

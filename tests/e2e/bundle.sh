@@ -2,7 +2,7 @@
 # The portable bundle, packed, unpacked elsewhere and entered into a menu; or Debian's package.
 #
 # usage: bundle.sh TREE FOLDER   TREE is a built tree of the preset "release" or "debian"; what was
-#                                packed is left as FOLDER, a new one, for battle.sh and dialogs.sh
+#                                packed is left as FOLDER, a new one, for play.py
 set -euo pipefail
 names=$(realpath "$(dirname "$0")/../../assets/names/Combo.txt")
 tree=$(realpath "$1") folder=$(realpath "$2")
