@@ -1,13 +1,14 @@
 #include "QtHelpViewer.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
 
 constexpr const char *kNoBook = "Die Hilfedatei fehlt oder ist beschädigt.";
 constexpr const char *kNoRoom =
-    "Die Hilfe braucht etwas Platz im Ordner für Zwischendateien (TMPDIR). Der Ordner fehlt, ist "
-    "voll oder lässt sich nicht beschreiben.";
+    "Die Hilfe braucht etwas Platz im Ordner für Zwischendateien. Der Ordner fehlt, ist voll oder "
+    "lässt sich nicht beschreiben:\n%1";
 
 } // namespace
 
@@ -17,7 +18,8 @@ QString QtHelpViewer::show(const QString &file, Entry entry) {
       return kNoBook;
     auto window = std::make_unique<HelpWindow>(file);
     if (!window->isReadable())
-      return window->hasRoom() ? kNoBook : kNoRoom;
+      return window->hasRoom() ? QString(kNoBook)
+                               : QString(kNoRoom).arg(QDir::toNativeSeparators(QDir::tempPath()));
     window_ = window.release(); // deletes itself when it is closed
   }
   window_->open(entry);

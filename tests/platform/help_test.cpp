@@ -73,7 +73,7 @@ TEST(Help, WhatIsNoBookOpensNothing) {
     EXPECT_EQ(viewer.window(), nullptr) << name;
   }
   qputenv("TMPDIR", "/proc"); // where nobody can write
-  EXPECT_TRUE(viewer.show(KORVEL_BOOK, Entry::index).contains("TMPDIR"));
+  EXPECT_TRUE(viewer.show(KORVEL_BOOK, Entry::index).endsWith("\n/proc"));
 }
 
 } // namespace

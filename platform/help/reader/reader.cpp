@@ -6,6 +6,8 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
+#include <algorithm>
+
 QHelpContentItem::QHelpContentItem(const QString &title, const QUrl &url) : QStandardItem(title) {
   setData(url);
   setEditable(false);
@@ -71,7 +73,7 @@ void QHelpEngine::readContents(const QByteArray &data, const QString &folder) {
     QString page;
     QString title;
     stream >> depth >> page >> title;
-    path.resize(std::clamp<qsizetype>(depth + 1, 1, path.size()));
+    path.resize(std::clamp<qsizetype>(depth, 0, path.size() - 1) + 1);
     auto *item = new QHelpContentItem(title, folder + page);
     path.last()->appendRow(item);
     path.append(item);
