@@ -140,7 +140,7 @@ public:
   std::string toText() const;
 
 private:
-  friend class GridProbe; // for tests: sets up positions and calls single steps
+  friend class GridProbe; // for tests: sets up positions
 
   void CreateBoats(const FleetTable &table);
   bool CheckDistance(int BootID, int X, int Y) const;

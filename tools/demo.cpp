@@ -13,7 +13,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 
 namespace {
 
@@ -23,11 +22,6 @@ constexpr const char *kHelp =
     "    phase to the folder (demo in the build tree). It is the same game each time.\n"
     "    With --film the pictures are 001.png, 002.png and so on: one after each press,\n"
     "    and several of each phase, where the film rests.\n";
-
-struct SeededDraw : RandomDraw {
-  std::mt19937 random{179}; // the human wins at all sizes
-  double next() override { return static_cast<double>(random()) * 0x1p-32; }
-};
 
 /// Writes pictures of the main window.
 struct Camera {
@@ -101,7 +95,7 @@ void playBattle(frmHaupt &window, Robot &robot, Camera &camera, RandomDraw &draw
 }
 
 void play(const QString &folder, int size, bool films) {
-  SeededDraw draw;
+  SeededDraw draw{179}; // the human wins at all sizes
   QuietSound sound;
   MemoryStore store;
   store.values["Korvel/Options/Help"] = "0"; // no balloons on the pictures

@@ -23,10 +23,9 @@ def skip(reason):
 
 
 if "INSIDE" not in os.environ:  # in a screen and a bus of its own
-    python = "/usr/bin/python3"  # which has the packages of the system
     command = ["xvfb-run", "-a", "-s", "-screen 0 1024x768x24 -noreset", "dbus-run-session", "--",
-               python, "-B", *sys.argv]
-    if not shutil.which(command[0]) or not shutil.which("dbus-run-session"):
+               "/usr/bin/python3", "-B", *sys.argv]  # which has the packages of the system
+    if not all(map(shutil.which, ("xvfb-run", "dbus-run-session"))):
         skip("xvfb-run or dbus-run-session is missing")
     with tempfile.TemporaryDirectory() as folder:
         home = sys.argv[2] if sys.argv[2:] else folder
@@ -373,8 +372,7 @@ subprocess.run(["setxkbmap", "de"], check=True)
 (scratch / "hurry.c").write_text("""
 #include <time.h>
 int nanosleep(const struct timespec *time, struct timespec *rest) {
-  long long ns = (time->tv_sec * 1000000000ll + time->tv_nsec) / 10;
-  struct timespec shorter = {ns / 1000000000, ns % 1000000000};
+  struct timespec shorter = {0, (time->tv_sec * 1000000000ll + time->tv_nsec) / 10};
   return clock_nanosleep(CLOCK_MONOTONIC, 0, &shorter, rest);
 }""")
 hurry = str(scratch / "hurry.so")

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Robot.h"
-#include "ScriptedDraw.h"
+#include "players.h"
 #include "printQt.h"
 #include "sounds.h"
 #include "startup.h"
@@ -70,7 +70,7 @@ protected:
   void winAsHuman() { shootAt({1, 2, 3, 4, 5, 6, 7, 8}); }
   void letComputerWin() { shootAt({0, 2, 3}); } // all water, and the first boat stays
 
-  ScriptedDraw draw;
+  SeededDraw draw{1};
   QuietSound sound; ///< "L start Boot": what was seen to change before, as `changes` says it
   MemoryStore store;
   QTemporaryDir folder; ///< of the data files

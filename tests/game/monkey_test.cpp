@@ -3,7 +3,6 @@
 // KORVEL_SEED=17 KORVEL_EVENTS=100000 for another, longer one.
 
 #include "Stage.h"
-#include "players.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -17,7 +16,7 @@ namespace {
 
 struct Monkey : Stage {
   Monkey() : seed_(qEnvironmentVariable("KORVEL_SEED", "1").toUInt()), random_(seed_) {
-    draw = ScriptedDraw(seed_);
+    draw = SeededDraw(seed_);
     QApplication::setDoubleClickInterval(0); // no clock decides
     QApplication::setKeyboardInputInterval(0);
     QFile names(folder.filePath("Combo.txt")); // events run while they are read

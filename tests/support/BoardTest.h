@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ScriptedDraw.h"
 #include "clsGrid.h"
+#include "players.h"
 
 #include <gtest/gtest.h>
 
-/// What only tests may reach: arrays to set up positions, and single steps.
+/// What only tests may reach: arrays to set up positions.
 class GridProbe {
 public:
   explicit GridProbe(clsGrid &grid) : grid_(grid) {}
@@ -15,10 +15,7 @@ public:
   void placeComputer(const char *fleet) { place(grid_.CFeld_, grid_.CBoote_, fleet); }
   void placeHuman(const char *fleet) { place(grid_.PFeld_, grid_.PBoote_, fleet); }
 
-  Field &CFeld() { return grid_.CFeld_; }
   Field &PFeld() { return grid_.PFeld_; }
-
-  bool CreateComputerBoat(int BootID) { return grid_.CreateComputerBoat(BootID); }
 
 private:
   static void place(Field &field, std::vector<tBoot> &boats, const char *fleet) {
@@ -70,7 +67,7 @@ private:
 
 /// A board, at first of size 1, whose surfaces write down what is drawn.
 struct BoardTest : testing::Test {
-  ScriptedDraw draw;
+  SeededDraw draw{1};
   clsGrid grid{draw};
   GridProbe probe{grid};
   Calls calls;

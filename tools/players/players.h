@@ -3,10 +3,26 @@
 #include "clsGrid.h"
 
 #include <optional>
+#include <random>
 #include <vector>
 
 /// Stand-ins for the human, for bulk games, tests and the demonstration. Unlike the computer they
 /// are given the whole board.
+
+/// The same numbers each time.
+class SeededDraw : public RandomDraw {
+public:
+  explicit SeededDraw(unsigned seed) : random_(seed) {}
+  double next() override {
+    ++draws;
+    return static_cast<double>(random_()) * 0x1p-32;
+  }
+
+  long draws = 0;
+
+private:
+  std::mt19937 random_;
+};
 
 /// What a player who sets a fleet likes, beyond what the rules ask: nothing, boats in a line, or
 /// all cells on the rim of the field.
