@@ -36,7 +36,7 @@ cmp Combo.txt "$names"
 ! readelf -d Korvel ./*.so | grep -E 'R(UN)?PATH' || fail "it looks for libraries elsewhere"
 
 # 2. Into the menu, which finds the game in its folder, and out of it.
-grep -qx Exec=Korvel korvel.desktop || fail "the desktop file starts something else"
+for line in Exec=Korvel Icon=korvel; do grep -qx "$line" korvel.desktop || fail "not $line"; done
 export XDG_DATA_HOME=$tmp/data
 ./menue >"$tmp/log"
 entry=$tmp/data/applications/korvel.desktop

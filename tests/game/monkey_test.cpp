@@ -44,7 +44,7 @@ struct Monkey : Stage {
     QTimer::singleShot(0, &here_, [this] {
       wake();
       QWidget *modal = QApplication::activeModalWidget();
-      if (window->grid() && any(modal ? 600 : boats_ != boats() ? 15 : 1500) == 0) {
+      if (window->grid() && any(modal ? 60 : boats_ != boats() ? 15 : 1500) == 0) {
         window->close();
       } else if (modal && modal->isVisible() && modal != busy_) {
         QWidget *const before = std::exchange(busy_, modal);
