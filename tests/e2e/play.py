@@ -54,7 +54,6 @@ if not program.exists():  # the bundle, which keeps the player's files beside it
     program = own / "Korvel"
 options = home / ".config/Korvel/Korvel.conf"
 FLEET = "A1 B1 C1 C2  E1 F1 G1  A4 A5 B5  I1 J1  D4 D5  F3  H5  J8"
-RED = 255, 0, 0
 
 
 def fail(*what):
@@ -173,15 +172,18 @@ def press(thing):
     thing.do_action(0)
 
 
-def click(*things, then=()):
-    """With the mouse, one at once after another; then the pointer goes aside at once."""
+def click(*things):
+    """With the mouse, one at once after another, a text by keys; then the pointer goes aside."""
     chain = []
     for thing in things:
+        if isinstance(thing, str):
+            chain += ["key", thing]
+            continue
         box = thing.get_extents(Atspi.CoordType.SCREEN)
         chain += ["mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2),
                   "click", "--delay", "0", "1"]
     said.clear()
-    subprocess.run(["xdotool", *chain, "mousemove", "1", "1", *then], check=True)
+    subprocess.run(["xdotool", *chain, "mousemove", "1", "1"], check=True)
 
 
 def window(title):
@@ -299,7 +301,7 @@ def play_by_ear():
     await_object("label", row)
     quote = find("label", rf"{shots} \(\d+%\)")
     for blinks in True, False:
-        wait("a result that blinks red", lambda: (RED in pixels(quote)) == blinks)
+        wait("a result that blinks red", lambda: ((255, 0, 0) in pixels(quote)) == blinks)
     click(quote)  # anywhere
     await_gone("label", "Neu auf Platz 1: .*")
     table = (own / "Score.hsc").read_bytes()
@@ -352,9 +354,10 @@ def play_by_hand():
     click(button("Ja"))
     wait("the fleet on the right field alone", lambda: pixels(left) == water != pixels(right))
 
-    # What comes during a turn waits: each press is a turn of its own, the access key comes last.
+    # What comes during a turn waits: each press is a turn of its own, then comes a question,
+    # which holds back the command after it.
     subprocess.run(["xdotool", "windowfocus", window("^Korvel$")], check=True)
-    click(*cells(left, "A1 B1 C1 D1 E1 E1"), then=["key", "alt+a"])
+    click(*cells(left, "A1 B1 C1 D1 E1 E1"), "alt+a", "alt+n")
     button("Nein")
     wait("six turns", lambda: re.findall("Du: (..)", " ".join(said)) == "A1 B1 C1 D1 E1 E1".split())
     keys("^ $", "Escape")

