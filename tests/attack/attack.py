@@ -131,11 +131,11 @@ def files():
     expect((root / "other").read_bytes() == WHOLE + b"behind", "what comes after is lost")
 
 
-def await_waiting(game, file):
+def await_waiting(game, file, held):
     """Until a game has the file open for so long that it must be waiting there."""
     seen = 0
     while seen < 100:
-        expect(game.poll() is None, "a game does not wait")
+        expect(game.poll() is None and file.read_bytes() == held, "a game does not wait")
         try:
             links = list(Path(f"/proc/{game.pid}/fd").iterdir())
             seen = seen + 1 if any(link.resolve() == file for link in links) else 0
@@ -153,14 +153,13 @@ def turns(file):
         fcntl.flock(other, fcntl.LOCK_EX)
         other.write(new[:900])
         reader = subprocess.Popen([scores, file], stdout=subprocess.PIPE)
-        await_waiting(reader, file)
+        await_waiting(reader, file, new[:900] + RESET[900:])
         other.write(new[900:])
         fcntl.flock(other, fcntl.LOCK_SH)
         lines = reader.communicate(timeout=60)[0].decode().splitlines()
         expect(lines[10:20] == [f"2 20 B{n}" for n in range(29, 0, -3)], "read", lines)
         game.stdin.write(results("A", 1))
-        await_waiting(game, file)
-        expect(file.read_bytes() == new, "a save does not wait")
+        await_waiting(game, file, new)
         expect(game.stdout.readline() == b"1\n", "a held file keeps a game from saving")
     expect(file.read_bytes() == WHOLE, "the save that waited is lost")
 

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""Plays the real game in a screen of its own: first over the accessibility bus alone, as a screen
-reader does, which knows what the game says and nothing else; then by mouse and keys, with closes at
+"""Plays the real game in a screen of its own: first a whole game over the accessibility bus alone, as
+a screen reader does, but for the colours that are looked at; then by mouse and keys, with closes at
 bad moments.
 
-usage: play.py TREE [HOME]   TREE is what bundle.sh has left; HOME the player's folder, else a new one
+usage: play.py TREE [HOME]   TREE is what bundle.sh has left, or / for an installed game. HOME is the
+                             player's folder, whose options and top ten are REPLACED; else a new one
 """
+import atexit
 import ctypes
 import os
 import re
@@ -22,16 +24,14 @@ def skip(reason):
     sys.exit(77)
 
 
-if "INSIDE" not in os.environ:  # in a screen and a bus of its own
+if "INSIDE" not in os.environ:  # starts itself once more, in a screen and a bus of its own
     command = ["xvfb-run", "-a", "-s", "-screen 0 1024x768x24 -noreset", "dbus-run-session", "--",
-               "/usr/bin/python3", "-B", *sys.argv]  # which has the packages of the system
-    if not all(map(shutil.which, ("xvfb-run", "dbus-run-session"))):
-        skip("xvfb-run or dbus-run-session is missing")
-    with tempfile.TemporaryDirectory() as folder:
+               "timeout", "-k9", "300", "/usr/bin/python3", "-B", *sys.argv]  # Debian's, with gi
+    with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as folder:
         home = sys.argv[2] if sys.argv[2:] else folder
-        sys.exit(subprocess.run(command, timeout=300, env={
+        sys.exit(subprocess.run(command, env={
             "INSIDE": "", "PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": home,
-            "XDG_RUNTIME_DIR": folder, "GSETTINGS_BACKEND": "memory", "SDL_AUDIODRIVER": "dummy",
+            "XDG_RUNTIME_DIR": folder, "TMPDIR": folder, "GSETTINGS_BACKEND": "memory", "SDL_AUDIODRIVER": "dummy",
             "QT_SCALE_FACTOR": "1.4"}).returncode)  # which counts as 1
 
 try:
@@ -41,7 +41,7 @@ try:
     Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(
         "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
         GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True))),
-        None, 0, 5000)
+        None, 0, 30_000)
 except Exception as missing:  # whatever it is, nothing can be tested
     skip(missing)
 
@@ -53,13 +53,15 @@ if not program.exists():  # the bundle, which keeps the player's files beside it
     own = shutil.copytree(sys.argv[1], home / "Korvel")
     program = own / "Korvel"
 options = home / ".config/Korvel/Korvel.conf"
+# Two blanks part the boats.
 FLEET = "A1 B1 C1 C2  E1 F1 G1  A4 A5 B5  I1 J1  D4 D5  F3  H5  J8"
 
 
 def fail(*what):
     shot = f"/tmp/korvel-test-{os.getpid()}.png"
     subprocess.run(["import", "-silent", "-window", "root", shot])
-    sys.exit(f"FAILED: {what}; said: {said[-3:]}; the screen: {shot}")
+    sys.exit(f"FAILED: {what}; said: {said[-3:]}; status {game.poll()}, "
+             f"{(scratch / 'log').read_text()[-999:]}; the screen: {shot}")
 
 
 def expect(truth, *what):
@@ -67,15 +69,16 @@ def expect(truth, *what):
         fail(*what)
 
 
-def wait(what, holds):
+def wait(what, holds, seconds=30):
     """Lets the bus speak until something holds, and gives it."""
-    end = time.monotonic() + 30
+    end = time.monotonic() + seconds
     while time.monotonic() < end:
-        GLib.MainContext.default().iteration(False)
+        while GLib.MainContext.default().iteration(False):
+            pass
         try:
             if found := holds():
                 return found
-        except GLib.Error:  # it has just gone
+        except (GLib.Error, OSError):  # it has just gone, or a file is not there yet
             pass
         time.sleep(.002)
     fail("waited for", what)
@@ -83,7 +86,7 @@ def wait(what, holds):
 
 def hear(event):
     try:
-        if event.source.get_role() == Atspi.Role.NOTIFICATION:
+        if event.detail1 and event.source.get_role() == Atspi.Role.NOTIFICATION:
             said.append(event.source.get_name())
     except GLib.Error:  # it is no more
         pass
@@ -106,6 +109,7 @@ def find(kind, name, root=None):
             if each.get_role_name() == kind and re.fullmatch(name, each.get_name()):
                 if each.get_state_set().contains(Atspi.StateType.SHOWING):
                     return each
+            # The cells of a table are many, and never searched for.
             if each.get_role_name() != "table" and (found := find(kind, name, each)):
                 return found
         except GLib.Error:  # it has just gone
@@ -113,15 +117,11 @@ def find(kind, name, root=None):
     return None
 
 
-def await_object(kind, name):
+def await_object(kind, name, root=None):
     def search():
         Atspi.get_desktop(0).clear_cache()  # a dialog may have been met before it was whole
-        return find(kind, name)
+        return find(kind, name, root)
     return wait(f"{kind} {name}", search)
-
-
-def await_gone(kind, name):
-    wait(f"no {kind} {name}", lambda: not find(kind, name))
 
 
 def button(name):
@@ -201,17 +201,19 @@ def start(**environment):
     log = open(scratch / "log", "w+")
     game = subprocess.Popen([program], env=os.environ | environment, stdout=log, stderr=log)
     game.log = log
+    atexit.register(game.kill)
     button("Neues Spiel")
 
 
-def close(meanwhile=lambda: None):
+def close(first=lambda: None):
     """What a click on the close box sends, at once after something; the game ends without a word."""
     x = ctypes.CDLL("libX11.so.6")
     x.XOpenDisplay.restype = ctypes.c_void_p
     display = ctypes.c_void_p(x.XOpenDisplay(None))
     protocols, delete = (x.XInternAtom(display, b"WM_" + s, 0) for s in (b"PROTOCOLS", b"DELETE_WINDOW"))
     main = int(window("^Korvel$"))
-    meanwhile()
+    first()
+    # type, serial, sent, display, window, message, format, data
     message = (ctypes.c_long * 24)(33, 0, 1, 0, main, protocols, 32, delete)
     x.XSendEvent(display, main, 0, 0, message)
     x.XCloseDisplay(display)
@@ -219,7 +221,8 @@ def close(meanwhile=lambda: None):
 
 
 def await_end():
-    expect(game.wait(10) == 0, "exit status", game.returncode)
+    wait("the end", lambda: game.poll() is not None, 10)
+    expect(game.returncode == 0, "exit status")
     game.log.seek(0)
     notes = "QSpiApplication|requestActivate|SDL disk|Writing"  # of Qt at a key and so on
     words = [line for line in game.log if not re.search(notes, line)]
@@ -239,11 +242,10 @@ def new_game(name, *typed):
 # ---- over the bus
 
 def play_by_ear():
-    wait("a hidden bin without a press",
-         lambda: find("push button", "Mülleimer").get_n_actions() == 0)
+    expect(button("Mülleimer").get_n_actions() == 0, "a hidden bin takes presses")
     press(button("Neues Spiel"))
     await_object("text", "Name des Spielers").set_text_contents("Jörg")
-    press(find("radio button", "Größe 1", await_object("panel", "Größe")))
+    press(await_object("radio button", "Größe 1", await_object("panel", "Größe")))
     press(button("OK!"))
     await_said("Zuerst 4er.")
     await_object("label", "Deine 4er: 1")
@@ -254,6 +256,7 @@ def play_by_ear():
     wait("a red bin", lambda: pixels(bin) != grey)
     press(bin)
     await_said("4er gelöscht.")
+    wait("a grey bin", lambda: pixels(bin) == grey)
     for boat in FLEET.split("  "):
         first, *rest = cells(left, boat)
         press(first)
@@ -299,15 +302,17 @@ def play_by_ear():
     press(yes)
     row = f"Neu auf Platz 1: {winner}, {shots} Bomben, {1700 // shots} %"
     await_object("label", row)
-    quote = find("label", rf"{shots} \(\d+%\)")
+    quote = await_object("label", rf"{shots} \(\d+%\)")
     for blinks in True, False:
         wait("a result that blinks red", lambda: ((255, 0, 0) in pixels(quote)) == blinks)
     click(quote)  # anywhere
-    await_gone("label", "Neu auf Platz 1: .*")
+    wait("no top ten", lambda: not find("label", row))
     table = (own / "Score.hsc").read_bytes()
     expect(len(table) == 1800 and winner.encode("cp1252") in table[:30], table[:60])
     press(button("Ausgang"))
-    press(button("Ja"))
+    yes = button("Ja")
+    expect(yes.get_description() == "Willst Du das Spiel wirklich beenden?", yes.get_description())
+    press(yes)
     await_end()
     print(f"{winner} wins after {shots} shots; the last words: {turn}")
 
@@ -319,6 +324,7 @@ def change_options():
     click(*(await_object(kind, name) for kind, name in (
         ("check box", "Sound"), ("radio button", "Größe 3"), ("push button", "Übernehmen"))))
     wait("options", lambda: options.read_text().split()[1:] == ["Help=0", "Sound=1", "StdSize=3"])
+    expect(len(children(sea())) == 180, "a new size at once")
     close()
 
 
@@ -333,10 +339,13 @@ def open_dialogs(heard):
     click(await_object("radio button", "Größe 1"))
     for answer, row in ("Nein", "Platz 1: (Jörg|Computer).*"), ("Ja", "Platz 1: unbekannt"):
         click(button("Top Ten löschen"))
+        asked = button("Ja").get_description()
+        expect(asked == "Soll die Top-Ten wirklich gelöscht werden?", asked)
         click(button(answer))
         await_object("label", row)
+    expect((own / "Score.hsc").read_bytes()[2:11] == b"unbekannt", "not cleared on disk")
     click(await_object("label", "Zum Beenden .*"))
-    await_gone("label", "Platz 1: .*")
+    wait("no top ten", lambda: not find("label", row))
     click(button("Hilfe"))
     await_object("tree", "Inhalt")
     close()
@@ -345,7 +354,7 @@ def open_dialogs(heard):
 def play_by_hand():
     new_game("Jörg", "J", "odiaeresis", "r", "g")
     left, right = sea(), sea("Rechtes")
-    water = pixels(left)
+    water = wait("two empty fields", lambda: (now := pixels(left)) == pixels(right) and now)
     fleet = cells(left, FLEET.replace("C2", "C2 D3").replace("D4", "D4 E3"))  # which are refused
     click(*fleet)
     click(button("Nein"))
@@ -355,14 +364,15 @@ def play_by_hand():
     wait("the fleet on the right field alone", lambda: pixels(left) == water != pixels(right))
 
     # What comes during a turn waits: each press is a turn of its own, then comes a question,
-    # which holds back the command after it.
+    # and the command after it is lost.
     subprocess.run(["xdotool", "windowfocus", window("^Korvel$")], check=True)
-    click(*cells(left, "A1 B1 C1 D1 E1 E1"), "alt+a", "alt+n")
+    click(*cells(left, "A1 B1 C1 D1 E1 E1 E1 E1"), "alt+a", "alt+t")
     button("Nein")
-    wait("six turns", lambda: re.findall("Du: (..)", " ".join(said)) == "A1 B1 C1 D1 E1 E1".split())
+    wait("eight turns",
+         lambda: re.findall("Du: (..)", " ".join(said)) == "A1 B1 C1 D1 E1 E1 E1 E1".split())
     keys("^ $", "Escape")
-    await_gone("push button", "Nein")
-    rest = cells(left, " ".join(f"{x}{y}" for y in range(3, 7) for x in "ABCDEFGHIJ"))
+    wait("no question", lambda: not find("push button", "Nein"))
+    rest = cells(left, " ".join(f"{x}{y}" for y in range(3, 9) for x in "ABCDEFGHIJ"))
     close(lambda: click(*rest))  # before these turns, whose pauses take longer
 
 
@@ -373,7 +383,7 @@ listener = Atspi.EventListener.new(hear)
 listener.register("object:state-changed:showing")
 subprocess.run(["setxkbmap", "de"], check=True)
 
-# One in which the pauses of a turn are a tenth as long.
+# For a game whose pauses are a tenth as long.
 (scratch / "hurry.c").write_text("""
 #include <time.h>
 int nanosleep(const struct timespec *time, struct timespec *rest) {
@@ -394,4 +404,4 @@ play_by_hand()
 start()
 new_game("Jörg", "J", "odiaeresis", "r", "g")
 fleet = cells(sea(), FLEET)
-close(lambda: click(*fleet))  # before the question
+close(lambda: click(*fleet))  # when the question is about to come

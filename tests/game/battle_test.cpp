@@ -21,8 +21,6 @@ TEST_F(Battle, TurnPaintsThenWaitsThenReplies) {
     EXPECT_EQ(sound.log.at(0), heard);
     EXPECT_TRUE(sound.log.size() == 2 && replies.contains(sound.log[1])) << sound.log.back();
   }
-  EXPECT_EQ(counters()[11], "2");
-  EXPECT_EQ(std::pair(window->BombenZahl(0), window->BombenZahl(1)), std::pair(3, 3));
 }
 
 // Both arrive while a sound is waited for.

@@ -338,14 +338,9 @@ def check_presses():
               f"size {size}, {presses}\n{line}\nwanted {accepted}")
 
 
-def main():
-    tally = defaultdict(list)
-    for size in FIELDS:
-        check_games(size, int(sys.argv[2]) if len(sys.argv) > 2 else 300, tally)
-    check_frequencies(tally)
-    check_presses()
-    sys.exit(f"{FAILED.total()} failed" if FAILED.total() else 0)
-
-
-if __name__ == "__main__":
-    main()
+tally = defaultdict(list)
+for size in FIELDS:
+    check_games(size, int(sys.argv[2]) if len(sys.argv) > 2 else 300, tally)
+check_frequencies(tally)
+check_presses()
+sys.exit(f"{FAILED.total()} failed" if FAILED.total() else 0)

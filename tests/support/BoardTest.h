@@ -77,10 +77,7 @@ struct BoardTest : testing::Test {
   BoardTest() {
     grid.setPicComputer(right);
     grid.setPicPlayer(left);
-    start(1);
-  }
-  void start(int size) {
-    grid.setSize(size);
+    grid.setSize(1);
     grid.ResetFields();
     calls.clear();
   }

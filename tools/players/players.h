@@ -6,10 +6,10 @@
 #include <random>
 #include <vector>
 
-/// Stand-ins for the human, for bulk games, tests and the demonstration. Unlike the computer they
-/// are given the whole board.
+// Stand-ins for chance and for the human, for bulk games, tests and the demonstration. Unlike the
+// computer, those for the human are given the whole board.
 
-/// The same numbers each time.
+/// The same numbers each time for a seed.
 class SeededDraw : public RandomDraw {
 public:
   explicit SeededDraw(unsigned seed) : random_(seed) {}
