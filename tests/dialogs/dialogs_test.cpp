@@ -1,6 +1,7 @@
 #include "Settings.h"
 #include "frmMeldung.h"
 #include "frmOptions.h"
+#include "pictures.h"
 #include "windows.h"
 
 #include <QFile>
@@ -54,6 +55,8 @@ TEST(frmOptions, ShowsWhatHoldsAndTakesOverOnlyByItsButton) {
     for (const char *name : {"chkSound", "chkHelp", "optSize0", "optSize1", "optSize2"})
       pressed += Robot::control<BlueButton>(dialog, name).isChecked() ? '1' : '0';
     EXPECT_EQ(pressed, shown);
+    auto on = Robot::control<BlueButton>(dialog, "chkHelp").icon().pixmap(99, {}, QIcon::On);
+    EXPECT_EQ(on.toImage(), loadPicture("hilfe-an").toImage());
     act(dialog, QString("chkSound chkHelp optSize2 ") + way);
     EXPECT_FALSE(dialog.isVisible()) << way;
     EXPECT_EQ(store.log.remove("Korvel/Options/"), stored);

@@ -314,7 +314,6 @@ def play_by_ear():
     expect(yes.get_description() == "Willst Du das Spiel wirklich beenden?", yes.get_description())
     press(yes)
     await_end()
-    print(f"{winner} wins after {shots} shots; the last words: {turn}")
 
 
 # ---- by mouse and keys
@@ -364,9 +363,9 @@ def play_by_hand():
     wait("the fleet on the right field alone", lambda: pixels(left) == water != pixels(right))
 
     # What comes during a turn waits: each press is a turn of its own, then comes a question,
-    # and the command after it is lost.
+    # and what comes after it is lost.
     subprocess.run(["xdotool", "windowfocus", window("^Korvel$")], check=True)
-    click(*cells(left, "A1 B1 C1 D1 E1 E1 E1 E1"), "alt+a", "alt+t")
+    click(*cells(left, "A1 B1 C1 D1 E1 E1 E1 E1"), "alt+a", "alt+t", *cells(left, "G1"))
     button("Nein")
     wait("eight turns",
          lambda: re.findall("Du: (..)", " ".join(said)) == "A1 B1 C1 D1 E1 E1 E1 E1".split())

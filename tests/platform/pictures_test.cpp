@@ -76,7 +76,9 @@ TEST(Pictures, AreThoseOfTheirFilesAndSharpOnDenseScreens) {
 
 TEST(Scales, AreWholeNumbers) {
   qputenv("QT_SCREEN_SCALE_FACTORS", "1.5;DP-1=1.4;DP-2=0.3");
+  qputenv("QT_SCALE_FACTOR_ROUNDING_POLICY", "PassThrough"); // which would go before ours
   keepScalesWhole();
+  EXPECT_FALSE(qEnvironmentVariableIsSet("QT_SCALE_FACTOR_ROUNDING_POLICY"));
   EXPECT_EQ(qgetenv("QT_SCREEN_SCALE_FACTORS"), "2;DP-1=1;DP-2=1");
   EXPECT_EQ(QGuiApplication::highDpiScaleFactorRoundingPolicy(),
             Qt::HighDpiScaleFactorRoundingPolicy::Round);
