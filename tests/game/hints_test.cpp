@@ -3,6 +3,7 @@
 #include "Stage.h"
 
 #include <QKeyEvent>
+#include <QProperty>
 #include <QTest>
 #include <QTimer>
 
@@ -36,10 +37,13 @@ TEST_F(Hints, TellWhatToDoNextWhileTheirSwitchIsOne) {
   EXPECT_EQ(timer().interval(), 3000);
   tick();
   EXPECT_EQ(hint(), "");
+  int changes = 0; // what starts it again shifts the ticks
+  const auto watch = timer().bindableActive().addNotifier([&] { ++changes; });
   cancelNewGame();
   EXPECT_EQ(hint(), kSetup) << "after Abbruch as well";
   robot->startBattle(1, draw);
   EXPECT_EQ(hint(), kBattle);
+  EXPECT_EQ(changes, 0);
   robot->press(fresh(0));
   EXPECT_EQ(hint(), "");
   for (const char *Help : {"0", "2"}) {

@@ -1,6 +1,5 @@
-// A monkey at the real windows: thousands of random events, and after each of them what has to
-// hold in every position. Time, chance and sound are in its hand, so a run is told by its seed:
-// KORVEL_SEED=17 KORVEL_EVENTS=100000 for another, longer one.
+// A monkey at the real windows: random events, and after each what has to hold in every position.
+// Time, chance and sound are in its hand; KORVEL_SEED=17 KORVEL_EVENTS=100000 is a longer run.
 
 #include "Stage.h"
 

@@ -312,7 +312,6 @@ def check_games(size, count, tally):
         except (ValueError, KeyError, TypeError, IndexError) as error:
             check(False, f"game of size {size}", f"{type(error).__name__} {error}\n{line}")
     check(len(seen) == 6 or count < 100, f"size {size}: both win, all codes", dict(seen))
-    print(f"size {size}: {count} games, {dict(seen)}")
 
 
 def random_presses(sea):
