@@ -4,22 +4,20 @@
 #include <QWindow>
 #include <qpa/qwindowsysteminterface.h>
 
-#include <set>
-
 namespace {
 
 using Battle = Stage;
 
 TEST_F(Battle, TurnPaintsThenWaitsThenReplies) {
   startBattle(1);
-  const std::set<std::string> replies{"R start Wasser", "R start Treffer", "RC start Versenkt"};
+  const Log replies{"", "R start Wasser", "R start Treffer", "RC start Versenkt"}; // as in `Shot`
   const std::pair<int, const char *> turns[] = {
       {0, "L wait Wasser"}, {1, "L wait Treffer"}, {8, "LC wait Versenkt"}}; // counters before it
   for (const auto &[BootID, heard] : turns) {
     sound.log.clear();
     robot->press(fresh(BootID));
-    EXPECT_EQ(sound.log.at(0), heard);
-    EXPECT_TRUE(sound.log.size() == 2 && replies.contains(sound.log[1])) << sound.log.back();
+    const auto [X, Y] = window->grid()->LastShot();
+    EXPECT_EQ(sound.log, (Log{heard, replies.at(window->grid()->PFeld()(X, Y, 2))}));
   }
 }
 
